@@ -1,0 +1,114 @@
+#include "surface/canvas.h"
+
+#include <cmath>
+
+namespace tessaron {
+
+double Canvas::columnWidth(double fontSize) { return fontSize * 12; }
+double Canvas::lineHeight(double fontSize) { return fontSize * 24; }
+
+std::string Canvas::itemText(const Value& v) {
+  switch (v.kind()) {
+    case Kind::String:
+    case Kind::Empty:
+    case Kind::Bool:
+      return CStr(v);
+    default:
+      return (v >= Value(0) ? " " : "") + CStr(v) + " ";
+  }
+}
+
+void Canvas::add(DrawOp op) { ops_.push_back(std::move(op)); }
+
+void Canvas::Print(std::initializer_list<PrintItem> items, bool lineEnd) {
+  // Text whose place was set from code, not left there by the last Print,
+  // starts a line of its own.
+  const bool placed = CurrentX != penX_ || CurrentY != penY_;
+  if (placed) column_ = 1;
+  bool first = true;
+  const double cw = columnWidth(FontSize);
+  for (const PrintItem& item : items) {
+    if (const Tab* tab = std::get_if<Tab>(&item)) {
+      const int n = tab->column < 1 ? 1 : tab->column;
+      if (column_ > n) {
+        endedLine();
+        CurrentY += lineHeight(FontSize);
+      }
+      column_ = n;
+      CurrentX = (n - 1) * cw;
+      wrote("", column_, false);
+      continue;
+    }
+    const std::string text = itemText(std::get<Value>(item));
+    add({.kind = DrawOp::Kind::Text,
+         .x1 = CurrentX,
+         .y1 = CurrentY,
+         .colour = ForeColor,
+         .size = FontSize,
+         .text = text});
+    wrote(text, column_, placed && first);
+    first = false;
+    const int len = Len(Value(text));
+    column_ += len;
+    CurrentX += len * cw;
+  }
+  if (lineEnd) {
+    if (first && placed) wrote("", 1, true);
+    endedLine();
+    CurrentX = 0;
+    CurrentY += lineHeight(FontSize);
+    column_ = 1;
+  }
+  penX_ = CurrentX;
+  penY_ = CurrentY;
+}
+
+void Canvas::Line(double x1, double y1, double x2, double y2, long colour) {
+  add({.kind = DrawOp::Kind::Line,
+       .x1 = x1,
+       .y1 = y1,
+       .x2 = x2,
+       .y2 = y2,
+       .colour = colour,
+       .width = DrawWidth,
+       .style = DrawStyle});
+  CurrentX = x2;
+  CurrentY = y2;
+}
+
+void Canvas::Box(double x1, double y1, double x2, double y2, long colour, bool filled) {
+  add({.kind = filled ? DrawOp::Kind::FilledBox : DrawOp::Kind::Box,
+       .x1 = x1,
+       .y1 = y1,
+       .x2 = x2,
+       .y2 = y2,
+       .colour = colour,
+       .width = DrawWidth,
+       .style = DrawStyle});
+  CurrentX = x2;
+  CurrentY = y2;
+}
+
+void Canvas::Circle(double x, double y, double radius, long colour) {
+  add({.kind = DrawOp::Kind::Circle,
+       .x1 = x,
+       .y1 = y,
+       .x2 = radius,
+       .colour = colour,
+       .width = DrawWidth,
+       .style = DrawStyle});
+  CurrentX = x;
+  CurrentY = y;
+}
+
+void Canvas::Scale(double x1, double y1, double x2, double y2) {
+  add({.kind = DrawOp::Kind::Scale, .x1 = x1, .y1 = y1, .x2 = x2, .y2 = y2});
+}
+
+void Canvas::Cls() {
+  ops_.clear();
+  CurrentX = CurrentY = penX_ = penY_ = 0;
+  column_ = 1;
+}
+
+}  // namespace tessaron

@@ -1,0 +1,74 @@
+#pragma once
+// The drawing surface shared by picture boxes and the printer page: a pen,
+// a font size, a colour, and a display list of what was drawn. The model keeps
+// the list; the view paints it, and the printer hands it to the device.
+#include <initializer_list>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "numeric/numeric.h"
+
+namespace tessaron {
+
+struct DrawOp {
+  enum class Kind { Line, Box, FilledBox, Circle, Text, Scale, Picture, NewPage };
+  Kind kind = Kind::Line;
+  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;  // Circle: x1, y1 centre, x2 radius
+  long colour = 0;
+  int width = 1;    // DrawWidth, device pixels
+  int style = 0;    // DrawStyle: 0 solid, 1 dash, 2 dot
+  double size = 0;  // FontSize of a Text
+  std::string text;
+  int picture = -1;  // index into the owner's pictures for a Picture op
+};
+
+// `Print Tab(n); ...` moves to character column n before the next item.
+struct Tab {
+  int column;
+};
+using PrintItem = std::variant<Tab, Value>;
+
+class Canvas {
+ public:
+  virtual ~Canvas() = default;
+
+  double CurrentX = 0, CurrentY = 0;
+  long ForeColor = 0;
+  double FontSize = 8.25;
+  int DrawWidth = 1;
+  int DrawStyle = 0;
+
+  // `Print a; b; ...`: items side by side; with lineEnd the pen goes to the
+  // left margin of the next line, without it (a trailing `;`) it stays.
+  void Print(std::initializer_list<PrintItem> items, bool lineEnd = true);
+  void Line(double x1, double y1, double x2, double y2, long colour);
+  void Line(double x1, double y1, double x2, double y2) { Line(x1, y1, x2, y2, ForeColor); }
+  void Box(double x1, double y1, double x2, double y2, long colour, bool filled);
+  void Circle(double x, double y, double radius, long colour);
+  void Circle(double x, double y, double radius) { Circle(x, y, radius, ForeColor); }
+  void Scale(double x1, double y1, double x2, double y2);
+  virtual void Cls();
+
+  const std::vector<DrawOp>& ops() const { return ops_; }
+  // Width of one character column and height of one line at a font size,
+  // in twips: the column grid that `Tab(n)` counts in.
+  static double columnWidth(double fontSize);
+  static double lineHeight(double fontSize);
+  // The text a number item is printed as: a blank before a non-negative
+  // number and a blank after any number.
+  static std::string itemText(const Value& v);
+
+ protected:
+  // Called with each piece of text written; the printer keeps its line text.
+  virtual void wrote(const std::string& text, int column, bool placed) {}
+  virtual void endedLine() {}
+  std::vector<DrawOp> ops_;
+
+ private:
+  void add(DrawOp op);
+  double penX_ = 0, penY_ = 0;  // where the last Print left the pen
+  int column_ = 1;              // character column of the pen on its line
+};
+
+}  // namespace tessaron

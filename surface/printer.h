@@ -1,0 +1,48 @@
+#pragma once
+// The default printer as one page object. Every print routine ends with
+// EndDoc, which releases the finished document to the host.
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "surface/canvas.h"
+
+namespace tessaron {
+
+struct PrintedPage {
+  std::vector<std::string> lines;  // the text, laid out in character columns
+  std::vector<DrawOp> ops;         // everything drawn, text included
+};
+
+struct PrintJob {
+  std::vector<PrintedPage> pages;
+  std::vector<std::vector<DrawOp>> pictures;  // what PaintPicture placed
+};
+
+class PrinterDevice : public Canvas {
+ public:
+  std::function<void(const PrintJob&)> onEndDoc;
+
+  void NewPage();
+  void EndDoc();
+  void PaintPicture(const Canvas& picture, double x, double y, double width, double height);
+  void Cls() override;
+
+  const PrintJob& lastJob() const { return last_; }
+  bool printing() const { return !ops_.empty() || !line_.empty() || !pages_.empty(); }
+
+ protected:
+  void wrote(const std::string& text, int column, bool placed) override;
+  void endedLine() override;
+
+ private:
+  void flushLine();
+  std::vector<PrintedPage> pages_;
+  std::vector<std::string> lines_;
+  std::vector<std::vector<DrawOp>> pictures_;
+  std::string line_;
+  bool lineOpen_ = false;
+  PrintJob last_;
+};
+
+}  // namespace tessaron
