@@ -1,0 +1,304 @@
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+
+#include "numeric/detail.h"
+#include "numeric/numeric.h"
+
+namespace tessaron {
+namespace detail {
+
+void RealDigits(double x, char digits[15], int& exp10) {
+  char buf[40];
+  auto res = std::to_chars(buf, buf + sizeof buf, std::fabs(x), std::chars_format::scientific, 14);
+  // "d.dddddddddddddde+XX"
+  digits[0] = buf[0];
+  std::memcpy(digits + 1, buf + 2, 14);
+  exp10 = 0;
+  const char* e = buf + 17;
+  std::from_chars(e + (*e == '+'), res.ptr, exp10);
+}
+
+std::string RealToText(double x) {
+  if (x == 0) return "0";
+  char d[15];
+  int e;
+  RealDigits(x, d, e);
+  int n = 15;
+  while (n > 1 && d[n - 1] == '0') --n;
+  char out[40];
+  char* p = out;
+  if (x < 0) *p++ = '-';
+  if (e >= 15 || e < -4) {
+    // "1E+15", "1.5E-05": at least two exponent digits.
+    *p++ = d[0];
+    if (n > 1) {
+      *p++ = '.';
+      std::memcpy(p, d + 1, n - 1);
+      p += n - 1;
+    }
+    *p++ = 'E';
+    *p++ = e < 0 ? '-' : '+';
+    int a = e < 0 ? -e : e;
+    if (a >= 100) *p++ = static_cast<char>('0' + a / 100);
+    *p++ = static_cast<char>('0' + a / 10 % 10);
+    *p++ = static_cast<char>('0' + a % 10);
+  } else if (e < 0) {
+    *p++ = '0';
+    *p++ = '.';
+    for (int i = -1; i > e; --i) *p++ = '0';
+    std::memcpy(p, d, n);
+    p += n;
+  } else {
+    for (int i = 0; i <= e; ++i) *p++ = i < n ? d[i] : '0';
+    if (n > e + 1) {
+      *p++ = '.';
+      std::memcpy(p, d + e + 1, n - e - 1);
+      p += n - e - 1;
+    }
+  }
+  return std::string(out, p);
+}
+
+namespace {
+bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+}  // namespace
+
+// What validators accept: optional surrounding blanks, a sign in front or
+// behind, parentheses for a negative, a leading currency sign, grouping
+// commas among the whole digits, one point and an optional exponent.
+bool ReadNumeric(std::string_view t, NumText& out) {
+  size_t i = 0, n = t.size();
+  auto skip = [&] {
+    while (i < n && IsBlank(t[i])) ++i;
+  };
+  out = NumText();
+  skip();
+  bool paren = false, sign = false, neg = false;
+  if (i < n && t[i] == '(') {
+    paren = true;
+    ++i;
+    skip();
+  }
+  auto take_sign = [&] {
+    if (!sign && i < n && (t[i] == '+' || t[i] == '-')) {
+      sign = true;
+      neg = t[i] == '-';
+      ++i;
+      skip();
+    }
+  };
+  take_sign();
+  if (i < n && t[i] == '$') {
+    ++i;
+    skip();
+  }
+  take_sign();
+  std::string& d = out.digits;
+  bool point = false, any = false;
+  int whole = 0;
+  for (; i < n; ++i) {
+    char c = t[i];
+    if (IsDigit(c)) {
+      d += c;
+      any = true;
+      if (!point) ++whole;
+    } else if (c == ',' && !point && any) {
+      continue;
+    } else if (c == '.' && !point) {
+      point = true;
+    } else {
+      break;
+    }
+  }
+  if (!any) return false;
+  int exp = 0;
+  if (i < n && (t[i] == 'e' || t[i] == 'E' || t[i] == 'd' || t[i] == 'D')) {
+    size_t j = i + 1;
+    bool eneg = false;
+    if (j < n && (t[j] == '+' || t[j] == '-')) eneg = t[j++] == '-';
+    if (j >= n || !IsDigit(t[j])) return false;
+    for (; j < n && IsDigit(t[j]); ++j)
+      if (exp < 100000) exp = exp * 10 + (t[j] - '0');
+    if (eneg) exp = -exp;
+    i = j;
+  }
+  skip();
+  if (i < n && (t[i] == '+' || t[i] == '-') && !sign) {
+    sign = true;
+    neg = t[i] == '-';
+    ++i;
+    skip();
+  }
+  if (paren) {
+    if (sign || i >= n || t[i] != ')') return false;
+    ++i;
+    neg = true;
+    skip();
+  }
+  if (i != n) return false;
+  out.neg = neg;
+  out.point = whole + exp;
+  return true;
+}
+
+namespace {
+double DigitsToReal(const NumText& v) {
+  std::string s = v.neg ? "-0." : "0.";
+  s += v.digits;
+  s += 'e';
+  s += std::to_string(v.point);
+  // strtod: too large gives an infinity (an Overflow), too small zero.
+  return Checked(std::strtod(s.c_str(), nullptr));
+}
+}  // namespace
+
+double TextToReal(std::string_view text) {
+  NumText v;
+  if (!ReadNumeric(text, v)) fail::TypeMismatch();
+  return DigitsToReal(v);
+}
+
+}  // namespace detail
+
+std::string Value::str() const { return CStr(*this); }
+
+std::string CStr(const Value& v) {
+  switch (v.kind()) {
+    case Kind::Empty:
+      return std::string();
+    case Kind::Bool:
+      return v.AsBool() ? "True" : "False";
+    case Kind::Int16:
+      return std::to_string(v.AsInt16());
+    case Kind::Int32:
+      return std::to_string(v.AsInt32());
+    case Kind::Real:
+      return detail::RealToText(v.AsReal());
+    case Kind::Dec:
+      return v.AsDec().ToString();
+    case Kind::String:
+      return v.AsString();
+  }
+  return std::string();
+}
+
+std::string Str(const Value& v) {
+  const Value n = v.kind() == Kind::String ? Value(v.number()) : v;
+  if (n.kind() == Kind::Bool) return CStr(n);
+  const std::string s = n.kind() == Kind::Empty ? std::string(1, '0') : CStr(n);
+  if (s[0] == '-') return s;
+  std::string out(1, ' ');
+  out += s;
+  return out;
+}
+
+double Val(std::string_view t) {
+  // Blanks, tabs and line feeds are skipped wherever they stand.
+  std::string s;
+  size_t i = 0;
+  auto next = [&]() -> char {
+    while (i < t.size() && (t[i] == ' ' || t[i] == '\t' || t[i] == '\n' || t[i] == '\r')) ++i;
+    return i < t.size() ? t[i] : '\0';
+  };
+  char c = next();
+  if (c == '+' || c == '-') {
+    if (c == '-') s += '-';
+    ++i;
+  }
+  bool point = false, any = false;
+  for (c = next(); c; c = next()) {
+    if (c >= '0' && c <= '9') {
+      s += c;
+      any = true;
+    } else if (c == '.' && !point) {
+      s += '.';
+      point = true;
+    } else {
+      break;
+    }
+    ++i;
+  }
+  if (!any) return 0;
+  if (c == 'e' || c == 'E' || c == 'd' || c == 'D') {
+    ++i;
+    std::string e = "e";
+    char d = next();
+    if (d == '+' || d == '-') {
+      e += d;
+      ++i;
+    }
+    bool digits = false;
+    for (d = next(); d >= '0' && d <= '9'; d = next()) {
+      e += d;
+      digits = true;
+      ++i;
+    }
+    if (digits) s += e;
+  }
+  return Checked(std::strtod(s.c_str(), nullptr));
+}
+
+bool IsNumeric(const Value& v) {
+  if (v.kind() != Kind::String) return true;
+  detail::NumText n;
+  return detail::ReadNumeric(v.AsString(), n);
+}
+
+Value CDbl(const Value& v) { return Value(v.number()); }
+
+Value CDec(const Value& v) {
+  switch (v.kind()) {
+    case Kind::Dec:
+      return v;
+    case Kind::Real:
+      return Value(Dec::FromDouble(v.AsReal()));
+    case Kind::String: {
+      // Read exactly from the text, so "0.07" is exactly seven hundredths.
+      detail::NumText n;
+      if (!detail::ReadNumeric(v.AsString(), n)) fail::TypeMismatch();
+      return Value(Dec::FromDigits(n.neg, n.digits, n.point));
+    }
+    case Kind::Bool:
+      return Value(Dec::FromInt(v.AsBool() ? -1 : 0));
+    case Kind::Int16:
+      return Value(Dec::FromInt(v.AsInt16()));
+    case Kind::Int32:
+      return Value(Dec::FromInt(v.AsInt32()));
+    case Kind::Empty:
+      return Value(Dec());
+  }
+  return Value(Dec());
+}
+
+namespace {
+// Nearest whole number, ties to even, within [lo, hi]; else Overflow.
+long long WholeEven(const Value& v, long long lo, long long hi) {
+  double r;
+  if (v.kind() == Kind::Dec) {
+    Dec d = v.AsDec().RoundEven();
+    if (d < Dec::FromInt(lo) || d > Dec::FromInt(hi)) fail::Overflow();
+    r = d.ToDouble();
+  } else {
+    r = std::nearbyint(v.number());
+    if (!(r >= static_cast<double>(lo) && r <= static_cast<double>(hi))) fail::Overflow();
+  }
+  return static_cast<long long>(r);
+}
+}  // namespace
+
+Value CInt(const Value& v) {
+  return Value::Int16(static_cast<int16_t>(WholeEven(v, -32768, 32767)));
+}
+Value CLng(const Value& v) {
+  return Value::Int32(static_cast<int32_t>(WholeEven(v, INT32_MIN, INT32_MAX)));
+}
+float CSng(const Value& v) {
+  double d = v.number();
+  if (std::fabs(d) > 3.4028234663852886e38) fail::Overflow();
+  return static_cast<float>(d);
+}
+
+}  // namespace tessaron
