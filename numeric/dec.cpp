@@ -109,15 +109,29 @@ struct Big {
 
 void DivMod(const Big& n, const Big& d, Big& q, Big& r) {
   q = Big();
+  int top = Big::kLimbs - 1;
+  while (top > 0 && !n.w[top]) --top;
+  if (d.Fits64() && !d.w[1]) {
+    // Divisors of one limb (months, 100, 12...) are the common case: one
+    // native 64-by-32 division per limb.
+    const uint64_t dv = d.w[0];
+    uint64_t rem = 0;
+    for (int i = top; i >= 0; --i) {
+      const uint64_t cur = (rem << 32) | n.w[i];
+      q.w[i] = static_cast<uint32_t>(cur / dv);
+      rem = cur - q.w[i] * dv;
+    }
+    r = Big::From(rem);
+    return;
+  }
   if (d.Fits64()) {
-    // Divisors that fit a machine word (months, 100, 12...) are the common
-    // case: one hardware division per limb.
     const uint64_t dv = uint64_t(d.w[0]) | (uint64_t(d.w[1]) << 32);
     u128 rem = 0;
-    for (int i = Big::kLimbs - 1; i >= 0; --i) {
-      u128 cur = (rem << 32) | n.w[i];
-      q.w[i] = static_cast<uint32_t>(cur / dv);
-      rem = cur % dv;
+    for (int i = top; i >= 0; --i) {
+      const u128 cur = (rem << 32) | n.w[i];
+      const uint64_t qi = static_cast<uint64_t>(cur / dv);  // < 2^32: rem < dv
+      q.w[i] = static_cast<uint32_t>(qi);
+      rem = cur - u128(qi) * dv;
     }
     r = Big::From(rem);
     return;

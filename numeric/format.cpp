@@ -150,8 +150,15 @@ bool IsZero(const Digits& n) { return n.d.find_first_not_of('0') == std::string:
 
 std::string Format(const Value& v, std::string_view mask) {
   if (v.kind() == Kind::String && !IsNumeric(v)) return v.AsString();
-  Mask mk;
-  Parse(mask, mk);
+  // The forms format with a handful of fixed masks, often the same one many
+  // times in a row: keep the last one parsed.
+  thread_local std::string last_mask;
+  thread_local Mask mk;
+  if (mask != last_mask || last_mask.empty()) {
+    mk = Mask();
+    Parse(mask, mk);
+    last_mask.assign(mask);
+  }
   Digits n;
   FromValue(v, n);
   if (mk.percent && !n.d.empty()) {
@@ -214,7 +221,13 @@ std::string Format(const Value& v, std::string_view mask) {
   // Each whole position takes one digit from the right; the leftmost takes
   // all that remain. Unfilled '0' shows 0, unfilled '#' nothing.
   {
-    std::vector<std::string> at(mk.whole.size());
+    // What each position shows: a run of `whole` (from, count), or a pad '0'
+    // (from -1). Reused between calls: Format runs in display loops.
+    struct Take {
+      int from, count;
+    };
+    thread_local std::vector<Take> at;
+    at.assign(mk.whole.size(), Take{0, 0});
     int left = static_cast<int>(whole.size());
     int seen = 0, shown = 0;
     for (int i = static_cast<int>(mk.whole.size()) - 1; i >= 0; --i) {
@@ -224,21 +237,21 @@ std::string Format(const Value& v, std::string_view mask) {
       const bool leftmost = seen == whole_pos;
       const int take = leftmost ? left : (left > 0 ? 1 : 0);
       if (take > 0) {
-        at[i] = whole.substr(left - take, take);
         left -= take;
+        at[i] = {left, take};
       } else if (k.t == T::Zero) {
-        at[i].assign(1, '0');
+        at[i] = {-1, 1};
       }
-      shown += static_cast<int>(at[i].size());
+      shown += at[i].count;
     }
     // With no whole position at all, the whole digits stand before the point.
-    std::string spill = whole_pos == 0 ? whole : std::string();
-    shown += static_cast<int>(spill.size());
+    const Take spill = {0, whole_pos == 0 ? static_cast<int>(whole.size()) : 0};
+    shown += spill.count;
     int rest = shown;  // digits still to write, for placing group commas
-    auto put = [&](const std::string& digits) {
-      for (char c : digits) {
+    auto put = [&](Take t) {
+      for (int j = 0; j < t.count; ++j) {
         if (mk.grouping && rest < shown && rest % 3 == 0) out += ',';
-        out += c;
+        out += t.from < 0 ? '0' : whole[t.from + j];
         --rest;
       }
     };
