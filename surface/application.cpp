@@ -256,7 +256,8 @@ void Application::type(Control& control, std::string_view text) {
   run([&] {
     moveFocus(&control);
     if (focused_ != &control || control.form().unloading()) return;
-    control.Text.clear();
+    // A locked box cannot be edited, so its text cannot be deleted either.
+    if (!control.design().locked) control.Text.clear();
     control.SelStart = control.SelLength = 0;
     for (int cp : codePoints(text)) {
       if (control.form().unloading()) return;
