@@ -64,7 +64,6 @@ void frmSample::buttonRoutes() {
     cmdGo.Caption = "Go " + CStr(clicks_);
     log("cmdGo.Click");
   });
-  on("cmdGo", Event::DblClick, [this](EventArgs&) { log("cmdGo.DblClick"); });
   on("cmdGo", Event::GotFocus, [this](EventArgs&) { log("cmdGo.GotFocus"); });
   on("cmdMsg", Event::Click, [this](EventArgs& e) {
     static const int flags[] = {48, 64, 4};
@@ -112,7 +111,6 @@ void frmSample::buttonRoutes() {
     imgLogo.Left += 100;
     log("imgLogo.Click");
   });
-  on("olePage", Event::DblClick, [this](EventArgs&) { log("olePage.DblClick"); });
   on("tmrTick", Event::Timer, [this](EventArgs&) {
     ticks_ = ticks_ + Value(1);
     log("tmrTick " + CStr(ticks_));
