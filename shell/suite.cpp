@@ -1,5 +1,6 @@
 #include "shell/suite.h"
 
+#include "calc/ovicalc.h"
 #include "finance/loan.h"
 #include "shell/about_form.h"
 #include "shell/main_form.h"
@@ -11,6 +12,7 @@ void registerSuite(Application& app) {
   app.registerForm("frmMain", [](Application& a) { return std::make_unique<frmMain>(a); });
   app.registerForm("frmLoan", [](Application& a) { return std::make_unique<frmLoan>(a); });
   app.registerForm("frmAbout", [](Application& a) { return std::make_unique<frmAbout>(a); });
+  app.registerForm("OviCalc", [](Application& a) { return std::make_unique<OviCalc>(a); });
 }
 
 }  // namespace tessaron

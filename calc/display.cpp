@@ -1,0 +1,202 @@
+// The display and the resets that every key shares: how a value becomes the
+// display text, how a calculation starts afresh, and the opening and closing
+// acts of a key.
+#include <charconv>
+#include <cmath>
+
+#include "calc/ovicalc.h"
+
+namespace tessaron {
+
+namespace {
+constexpr long kBlue = 0xFF0000, kGreen = 0x8000, kBlack = 0;
+
+// The display text as a number: comma groups are read past, as the number
+// rule reads them. Text that is no number falls to that rule and its failure.
+double readNumber(const std::string& text) {
+  if (text.empty()) return 0;
+  char buf[64];
+  size_t n = 0;
+  for (char ch : text) {
+    if (ch == ',') continue;
+    if (n == sizeof buf) return Value(text).number();
+    buf[n++] = ch;
+  }
+  double v = 0;
+  const auto res = std::from_chars(buf, buf + n, v);
+  if (res.ec != std::errc() || res.ptr != buf + n) return Value(text).number();
+  return v;
+}
+}  // namespace
+
+double OviCalc::displayValue() const { return readNumber(Readout->Caption); }
+double OviCalc::readNumberOf(const std::string& text) { return readNumber(text); }
+
+void OviCalc::warn(std::string_view text) {
+  if (loud()) MsgBox(std::string(text), 48, " Vantor Calc");
+}
+
+void OviCalc::logKey(int code) {
+  if (!KeyLog) return;
+  if (KeyCount >= kKeySlots) throw Failure("Subscript out of range");
+  KeyOrder[KeyCount++] = code;
+}
+
+bool OviCalc::chainEnded() const { return nLastOp[nLevel] == Value(2) && sgLastOp[nLevel] < 5; }
+
+void OviCalc::setFormula(std::string text) {
+  FormulaText = std::move(text);
+  showFormula();
+}
+
+void OviCalc::scrFormToZero() {
+  if (ScrForm->value() != Value(0)) ScrForm->setValue(Value(0));
+  EqnIdx = 0;
+}
+
+void OviCalc::restoreWidth() { Width = frameAssist->Visible ? 12690 : 11640; }
+
+void OviCalc::greyPrefixes() {
+  bArc = bHyp = false;
+  cmdArc->BackColor = QBColor(7);
+  cmdHyp->BackColor = QBColor(7);
+  frameRD->Visible = true;
+}
+
+void OviCalc::enableFunctions(bool on) {
+  for (int i = 5; i <= 11; ++i) enable(OperatorC[i], on);
+}
+
+void OviCalc::pubNewOri() {
+  if (disp().empty()) disp() = "0";
+  enableFunctions(true);
+  // Levels above the highest one used since the last reset still hold their
+  // start values, so the replay's many resets stay cheap.
+  for (int l = 0; l <= nLevelHigh; ++l) {
+    vAcc[l] = vOperand[l] = vFuncX[l] = vFuncY[l] = vSumHold[l] = Value(0);
+    sgCount[l] = sgLastOp[l] = sgSumOp[l] = 0;
+    sEntry[l] = Entry::Ops;
+    sOp[l] = 0;
+    sShown[l] = "0";
+    nLastOp[l] = Value(0);
+  }
+  nLevelHigh = 0;
+  nLevel = 0;
+  if (EqnIdx > 0 && (!EqnOpen || CalcStage == 3)) scrFormToZero();
+  bParenValue = bDecimal = bResult = ErrFlag = false;
+  FormulaText.clear();
+  if (loud()) {
+    lblFormula->Caption.clear();
+    txtKwal->Text.clear();
+  }
+  pubEnableB();
+  nMemLast = 0;
+  enable(cmdPaste, true);
+  enable(cmdDeciC, true);
+}
+
+// The first calculation keeps the colour of the load; every later fresh start
+// moves on by one row.
+void OviCalc::pubNew() {
+  if (CalcStage < 4 && (bColorDue || ErrFlag || InputForm))
+    pubCOLOR();
+  else
+    bColorDue = true;
+  pubNewOri();
+}
+
+void OviCalc::pubNewT() {
+  pubNewOri();
+  if (loud()) {
+    cmdClosePC->Enabled = false;
+    OperatorC[2]->Enabled = true;
+  }
+}
+
+void OviCalc::pubCOLOR() {
+  if (EqnOpen && CalcStage >= 4) return;
+  if (!bColorDue) return;
+  if (++nColor > 7) nColor = 1;
+  BackColor = std::stol(sColorForm[nColor]);
+  Readout->BackColor = vColorRead[nColor];
+  lblFormula->BackColor = Readout->BackColor;
+  HistColor[0] = nColor;
+}
+
+void OviCalc::PubSettingB() {
+  if (loud()) cmdBackC->Enabled = true;
+  if (CalcStage > 4) return;
+  if (KeyCount < 4 && EqnOpen && !InputT && !InputForm && EqnIdx != 0) {
+    scrFormToZero();
+    bColorDue = true;
+    pubCOLOR();
+  }
+  if (CalcStage == 3 && KeyCount == 3) setFormula("");
+  frameSlide->Visible = false;
+  if (lastKey() != 33) greyPrefixes();
+  ErrFlag = false;
+}
+
+void OviCalc::PubSetting() {
+  // Nothing of the demo runs yet, so clearing its mark is PubSettingB's work.
+  PubSettingB();
+}
+
+void OviCalc::PubShow(Control& target, const Value& value) {
+  if (value.kind() == Kind::Empty || (value.kind() == Kind::String && value.AsString().empty())) {
+    target.Caption = "0";
+    return;
+  }
+  // The conversion through Real is the whole fifteen-digit limit.
+  const double v = value.kind() == Kind::Real ? value.AsReal() : value.number();
+  target.Caption = CStr(Value(v));
+}
+
+void OviCalc::PubReadout(const Value& value) {
+  PubShow(*Readout, value);
+  colour(kBlack);
+}
+
+void OviCalc::PubReadComma() {
+  const double a = std::fabs(Val(disp()));
+  if (a >= 1000 && a < 1e15) disp() = Format(Value(displayValue()), "###,##0.####################");
+}
+
+void OviCalc::PubZeroRead() {
+  pubNewT();
+  PubShow(*Readout, HistValue[EqnIdx]);
+}
+
+void OviCalc::PubLast() {
+  bDecimal = bResult = true;
+  colour(kGreen);
+  if (FormulaText.empty())
+    PubSettingB();
+  else
+    PubSetting();
+  pubEnableD();
+  if (bParenValue) enable(CancelEntryC, false);
+  show(frameRD, true);
+}
+
+void OviCalc::PubIniOrder() {
+  HistValue[0] = lastKey() == 22 ? Value(0) : Value(displayValue());
+  KeyOrder[0] = 32;
+  KeyOrder[1] = bDegree ? 41 : 42;
+  KeyOrder[2] = 99;
+  KeyCount = 3;
+  if (EqnOpen && loud()) KeyLog = true;
+}
+
+void OviCalc::pubHistSave() {
+  HistText[0] = FormulaText;
+  HistValue[0] = Value(displayValue());
+  HistColor[0] = nColor;
+  for (int i = kHistRows - 1; i >= 1; --i) {
+    HistText[i] = HistText[i - 1];
+    HistValue[i] = HistValue[i - 1];
+    HistColor[i] = HistColor[i - 1];
+  }
+}
+
+}  // namespace tessaron

@@ -1,0 +1,130 @@
+#pragma once
+// The Vantor Calc: a machine of keys. Every key is a plain routine that reads
+// the display text, works on the per-level record and writes text back; the
+// same routines are pressed again, silently, by the key log's replay.
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "calc/state.h"
+#include "surface/form.h"
+
+namespace tessaron {
+
+class OviCalc : public Form, public CalcState {
+ public:
+  explicit OviCalc(Application& app);
+  void Load() override;
+
+  // Keys, callable by name from the keyboard routing and from replay.
+  void Number(int Index);
+  void cmdDeci();
+  void Sign();
+  void cmdExp();
+  void cmdDelete();
+  void cmdBack();
+  void CancelEntry();
+  void Cancel();
+  void Operator(int Index);
+  void cmdOpenP();
+  void cmdCloseP();
+  void Percent();
+  void Pipi();
+  void cmdPythaOne();
+  void cmdPythaPlus();
+  void cmdDeg();
+  void cmdRad();
+  void txtKwalClick();
+  void Form_KeyPress(int& KeyAscii);
+
+  // One recorded key code, pressed again.
+  void pubCola(int code);
+
+  // Resets and shared acts of the keys.
+  void pubNewOri();
+  void pubNew();
+  void pubNewT();
+  void pubCOLOR();
+  void PubSetting();
+  void PubSettingB();
+  void PubShow(Control& target, const Value& value);
+  void PubReadout(const Value& value);
+  void PubReadComma();
+  void PubZeroRead();
+  void PubLast();
+  void PubIniOrder();
+  void pubEnableA();
+  void pubEnableB();
+  void pubEnableD();
+
+  // Arithmetic: the four operations with their rounding, and the two-operand
+  // functions. An empty result means the operation was refused.
+  Value PubOPX(char op, const Value& x, const Value& y);
+  Value PubOPY(int index, const Value& x, const Value& y);
+  Value PubCombi(const Value& n, const Value& r);
+  Value PubPermute(const Value& n, const Value& r);
+  Value PubPower(const Value& x, const Value& y);
+  Value PubPowerR(const Value& x, const Value& y);
+  Value PubLoga(const Value& x, const Value& y);
+  Value PubPythaFrom(const Value& x, const Value& y);
+  Value PubPythaTo(const Value& x, const Value& y);
+
+  // The transcript.
+  void PubFormula(const Value& value);
+  void PubFormula2(const Value& value);
+  void PubFormFunc(const Value& value);
+  void PubFormCut();
+
+  // The display's value by the number rule (comma groups accepted).
+  double displayValue() const;
+  static double readNumberOf(const std::string& text);
+
+ private:
+  void design();
+  void routes();
+  void bindControls();
+
+  // The silent rule: from stage 5 on no box, no enabling, no transcript.
+  bool loud() const { return CalcStage < 5; }
+  void warn(std::string_view text);
+  void enable(Control* c, bool on) {
+    if (loud()) c->Enabled = on;
+  }
+  void show(Control* c, bool on) {
+    if (loud()) c->Visible = on;
+  }
+  void logKey(int code);
+  int lastKey() const { return KeyCount > 0 ? KeyOrder[KeyCount - 1] : 99; }
+  std::string& disp() { return Readout->Caption; }
+  void colour(long c) { Readout->ForeColor = c; }
+  bool chainEnded() const;
+  void setFormula(std::string text);
+  void showFormula() {
+    if (loud()) lblFormula->Caption = FormulaText;
+  }
+  void scrFormToZero();
+  void restoreWidth();
+  void pubHistSave();
+  void refuse(std::string_view text);
+  void enableFunctions(bool on);
+  void numberViews(bool typing);
+  void greyPrefixes();
+  void expMagnitudeCheck();
+  void funcKey(int code, const char* transcript, double (*compute)(double), double limit,
+               const char* refusal);
+  std::string formulaNumber(double v) const;
+  // Presses a key whose routine another part of the calculator registers.
+  void pressKey(Control* c);
+
+  // Controls the keys touch, found once.
+  Control *Readout{}, *lblFormula{}, *lblRead2{}, *txtKwal{}, *cmdDeciC{}, *SignC{}, *cmdExpC{},
+      *cmdDeleteC{}, *cmdBackC{}, *CancelEntryC{}, *CancelC{}, *cmdOpenPC{}, *cmdClosePC{},
+      *PercentC{}, *PipiC{}, *cmdFract{}, *cmdOctal{}, *nFac{}, *cmdPaste{}, *cmdT{}, *cmdTform{},
+      *cmdTvalue{}, *cmdArc{}, *cmdHyp{}, *cmdDegC{}, *cmdRadC{}, *frameRD{}, *frameSlide{},
+      *frameAssist{}, *frmEquation{}, *cmdRaDeg{}, *cmdGraph{}, *ScrForm{}, *picGraph{};
+  std::array<Control*, 10> NumberC{};
+  std::array<Control*, 12> OperatorC{};
+  std::array<Control*, 5> MMMin{}, MMMout{}, MMMsub{};
+};
+
+}  // namespace tessaron
