@@ -1,0 +1,1 @@
+#include "tests/finance/loan_fixture.h"
