@@ -20,17 +20,16 @@ std::vector<Design> designTable() {
        .name = "Label1",
        .left = 1680,
        .top = 240,
-       .width = 3600,
-       .height = 720,
-       .fontSize = 9,
-       .fontBold = true},
-      {.kind = K::Label, .name = "Label2", .left = 1680, .top = 1020, .width = 3600, .height = 480},
-      {.kind = K::Label, .name = "Label3", .left = 240, .top = 1620, .width = 5040, .height = 480},
+       .width = 4680,
+       .height = 840,
+       .fontSize = 9},
+      {.kind = K::Label, .name = "Label2", .left = 1680, .top = 1200, .width = 4680, .height = 600},
+      {.kind = K::Label, .name = "Label3", .left = 240, .top = 1980, .width = 6120, .height = 600},
       {.kind = K::CommandButton,
        .name = "cmdOK",
        .caption = "OK",
-       .left = 4200,
-       .top = 2220,
+       .left = 5280,
+       .top = 2760,
        .width = 1080,
        .height = 420},
   };
@@ -38,7 +37,7 @@ std::vector<Design> designTable() {
 }  // namespace
 
 frmAbout::frmAbout(Application& app)
-    : Form(app, "frmAbout", {.caption = "  About  Tessaron", .width = 5640, .height = 3180},
+    : Form(app, "frmAbout", {.caption = "  About  Tessaron", .width = 6600, .height = 3720},
            designTable()) {
   // Stands in line with the normal menu, below it.
   Left = 5910;
