@@ -219,9 +219,9 @@ void Application::press(Form& form, int keyAscii) {
     EventArgs args{.KeyAscii = keyAscii};
     form.fire(nullptr, Event::KeyPress, args);
     if (args.KeyAscii == 0) return;
-    if (Control* c = form.ActiveControl()) {
-      if (c->kind() == ControlKind::TextBox) keyToControl(*c, args);
-    }
+    // Then the focused control, as in a real window: a box takes the
+    // character, a button takes Enter or Space as a click.
+    if (Control* c = form.ActiveControl()) keyToControl(*c, args);
   });
 }
 
