@@ -24,8 +24,10 @@ void Canvas::Print(std::initializer_list<PrintItem> items, bool lineEnd) {
   // Text whose place was set from code, not left there by the last Print,
   // starts a line of its own.
   const bool placed = CurrentX != penX_ || CurrentY != penY_;
-  if (placed) column_ = 1;
-  bool first = true;
+  if (placed) {
+    column_ = 1;
+    freshLine();
+  }
   const double cw = columnWidth(FontSize);
   for (const PrintItem& item : items) {
     if (const Tab* tab = std::get_if<Tab>(&item)) {
@@ -36,7 +38,7 @@ void Canvas::Print(std::initializer_list<PrintItem> items, bool lineEnd) {
       }
       column_ = n;
       CurrentX = (n - 1) * cw;
-      wrote("", column_, false);
+      wrote("", column_);
       continue;
     }
     const std::string text = itemText(std::get<Value>(item));
@@ -46,14 +48,12 @@ void Canvas::Print(std::initializer_list<PrintItem> items, bool lineEnd) {
          .colour = ForeColor,
          .size = FontSize,
          .text = text});
-    wrote(text, column_, placed && first);
-    first = false;
+    wrote(text, column_);
     const int len = Len(Value(text));
     column_ += len;
     CurrentX += len * cw;
   }
   if (lineEnd) {
-    if (first && placed) wrote("", 1, true);
     endedLine();
     CurrentX = 0;
     CurrentY += lineHeight(FontSize);

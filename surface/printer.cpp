@@ -2,10 +2,13 @@
 
 namespace tessaron {
 
-void PrinterDevice::wrote(const std::string& text, int column, bool placed) {
-  if (placed && lineOpen_) flushLine();
+void PrinterDevice::freshLine() {
+  if (lineOpen_) flushLine();
+}
+
+void PrinterDevice::wrote(const std::string& text, int column) {
   const int have = Len(Value(line_));
-  if (!placed && column - 1 > have) line_ += Space(column - 1 - have);
+  if (column - 1 > have) line_ += Space(column - 1 - have);
   line_ += text;
   lineOpen_ = true;
 }
