@@ -28,6 +28,7 @@ constexpr const char* kCscH = " cosecH x =  1 / sinH x =  2 / (e^x - e^-x)  ";
 constexpr const char* kCotH = " cotanH x =  cosH x / sinH x= (e^x + e^-x)  /  (e^x - e^-x)  ";
 constexpr const char* kTanH = " tanH x = sinH x / cosH x = (e^x - e^-x)  /  (e^x + e^-x)  ";
 constexpr const char* kSecH = "  secH x =  1 / cosH x =  2 / (e^x + e^-x)   ";
+// acotH shows the cotanH formula followed by its own.
 constexpr const char* kAcotH =
     " cotanH x =  cosH x / sinH x= (e^x + e^-x)  /  (e^x - e^-x)   AcotH x = (Log((x + 1) / (x "
     "- 1))) / 2 ";
@@ -67,6 +68,9 @@ const Pole kPoles[] = {
     {"ZCSC", true, 180.000000000005, "  -   Infinity.  cosec(180+) ", kNoFormula},
     {"ZCSC", false, 0, "  +  -  Infinity.  cosec(0) ", kNoFormula},
     {"ZCSC", false, kPi, "  + -   Infinity.  cosec(180) ", kNoFormula},
+    // In radians the two side texts carry the labels (0-) and (0+) against
+    // their signs; each side takes the text whose sign it has: just above 0
+    // the cosecant runs to plus infinity.
     {"ZCSC", false, 1e-12, "  +   Infinity.  cosec(0-) ", kNoFormula},
     {"ZCSC", false, -1e-12, "  -   Infinity.  cosec(0+) ", kNoFormula},
     // Cotangent at 0 and 180.

@@ -235,8 +235,22 @@ TEST(TrigSpecial, HyperbolicSpecialPointsInBothModes) {
   }
 }
 
+// The prefixes choose the routine: Hyp and Arc together give the inverse
+// hyperbolic one whatever their order.
+TEST(TrigSpecial, PrefixesChooseTheRoutine) {
+  const Value x(0.5);
+  EXPECT_EQ(Trig(TrigKey::Sin, false, false, x, true).transcript, " d.sin ");
+  EXPECT_EQ(Trig(TrigKey::Sin, true, false, x, false).transcript, " r.asin ");
+  EXPECT_EQ(Trig(TrigKey::Sin, false, true, x, true).transcript, " sinH ");
+  EXPECT_EQ(Trig(TrigKey::Sin, true, true, x, true).transcript, " AsinH ");
+  EXPECT_EQ(Trig(TrigKey::Sec, true, true, x, true).transcript, " asecH ");
+  EXPECT_EQ(Trig(TrigKey::Cot, true, false, x, true).transcript, " d.acotan ");
+}
+
 TEST(TrigSpecial, DegreeRadianConversionMarksCancel) {
   EXPECT_EQ(RaDegMark("2", true), "2 >Rad ");
+  // The mark is cut by its five characters ">Rad ", so the blank in front of
+  // it stays.
   EXPECT_EQ(RaDegMark("2 >Rad ", false), "2 ");
   EXPECT_EQ(RaDegMark(RaDegMark("5 X 3", false), true), "5 X 3 ");
   EXPECT_EQ(RaDegMark("", false), " >Deg ");
