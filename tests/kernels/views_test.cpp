@@ -49,7 +49,7 @@ TEST(FractionView, ApproximateFractionsSayAbout) {
 
 // When no denominator up to 200 is tried (1/f beyond 200) the view is one
 // over the whole part of 1/f, with its blanks: the example of 0.001 reads
-// " 1 / 1000 ", though the steps name that text only beyond 10^15.
+// " 1 / 1000 ", the same text as for a fraction part below 10^-15.
 TEST(FractionView, OneOverWhenNoDenominatorFits) {
   EXPECT_EQ(Shown(FractionView(0.001)), " 1 / 1000 ");
   EXPECT_EQ(Shown(FractionView(0.004)), " 1 / 250 ");
