@@ -12,13 +12,13 @@
 namespace tessaron::view {
 
 QFont formFont(double pointSize, bool bold) {
-  QFont f(QStringLiteral("DejaVu Sans"));
-  // Hangul captions fall back to a face that has the glyphs.
-  f.setFamilies({QStringLiteral("DejaVu Sans"), QStringLiteral("NanumGothic"),
-                 QStringLiteral("NanumBarunGothic")});
+  // A narrow sans face keeps captions within the widths the forms were laid
+  // out for; Hangul falls back to a face that has the glyphs.
+  QFont f(QStringLiteral("DejaVu Sans Condensed"));
+  f.setFamilies({QStringLiteral("DejaVu Sans Condensed"), QStringLiteral("DejaVu Sans"),
+                 QStringLiteral("NanumBarunGothic"), QStringLiteral("NanumGothic")});
   f.setPointSizeF(pointSize > 0 ? pointSize : 8);
   f.setBold(bold);
-  f.setHintingPreference(QFont::PreferFullHinting);
   return f;
 }
 
