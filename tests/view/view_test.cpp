@@ -9,11 +9,14 @@
 #include <QFileInfo>
 #include <QGroupBox>
 #include <QImage>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableWidget>
+#include <QTextBrowser>
 #include <QTimer>
 
 #include "tests/view/test_form.h"
@@ -210,6 +213,48 @@ TEST_F(ViewTest, TimerTicksWaitForTheRunningEvent) {
   while (f.ticks == after && clock.elapsed() < 2000) QCoreApplication::processEvents();
   EXPECT_GT(f.ticks, after);
   app.setObserver(&view);
+}
+
+TEST_F(ViewTest, KeyboardKeysGoThroughTheModel) {
+  TestForm& f = shown();
+  QWidget* box = widget("txtName");
+  app.run([&] { f.control("txtName").Text = ""; });
+  for (const auto& [key, text] : {std::pair{Qt::Key_A, "a"}, {Qt::Key_7, "7"}, {Qt::Key_B, "b"}}) {
+    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, QString::fromLatin1(text));
+    QCoreApplication::sendEvent(box, &down);
+  }
+  // The KeyPress routine made capitals and dropped the digit; the box shows
+  // the model's text, not what the keys would have typed by themselves.
+  EXPECT_EQ(f.control("txtName").Text, "AB");
+  EXPECT_EQ(qobject_cast<QLineEdit*>(box)->text(), QStringLiteral("AB"));
+  QKeyEvent back(QEvent::KeyPress, Qt::Key_Backspace, Qt::NoModifier, QStringLiteral("\b"));
+  QCoreApplication::sendEvent(box, &back);
+  EXPECT_EQ(f.control("txtName").Text, "A");
+  // Keys on the window itself reach the form's KeyDown with the key's code.
+  QKeyEvent f2(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier);
+  QCoreApplication::sendEvent(view.window(f), &f2);
+  EXPECT_EQ(f.events.back(), "Form.KeyDown 113");
+  QKeyEvent left(QEvent::KeyPress, Qt::Key_Left, Qt::NoModifier);
+  QCoreApplication::sendEvent(view.window(f), &left);
+  EXPECT_EQ(f.events.back(), "Form.KeyDown 37");
+}
+
+TEST_F(ViewTest, DoubleClickOnTheHelpIconOpensTheHelpPage) {
+  shown();
+  QWidget* icon = widget("oleHelp");
+  const QPointF at(icon->rect().center());
+  QMouseEvent twice(QEvent::MouseButtonDblClick, at, icon->mapTo(icon->window(), at),
+                    icon->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(icon, &twice);
+  QTextBrowser* help = view.helpWindow();
+  ASSERT_NE(help, nullptr);
+  EXPECT_TRUE(help->isVisible());
+  if (QFile::exists(QStringLiteral(":/help/CalcHelp.html"))) {
+    EXPECT_EQ(help->source(), QUrl(QStringLiteral("qrc:/help/CalcHelp.html")));
+    EXPECT_GT(help->toPlainText().size(), 200);
+  } else {
+    EXPECT_TRUE(help->toPlainText().contains(QStringLiteral("not part of this build")));
+  }
 }
 
 TEST_F(ViewTest, PlayerDeliversRealInput) {
