@@ -60,8 +60,11 @@ class Canvas {
   static std::string itemText(const Value& v);
 
  protected:
-  // Called with each piece of text written; the printer keeps its line text.
-  virtual void wrote(const std::string& text, int column, bool placed) {}
+  // Called with each piece of text written at its character column; the
+  // printer keeps its line text.
+  virtual void wrote(const std::string& text, int column) {}
+  // Text placed from code starts a line of its own.
+  virtual void freshLine() {}
   virtual void endedLine() {}
   std::vector<DrawOp> ops_;
 

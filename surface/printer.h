@@ -32,7 +32,8 @@ class PrinterDevice : public Canvas {
   bool printing() const { return !ops_.empty() || !line_.empty() || !pages_.empty(); }
 
  protected:
-  void wrote(const std::string& text, int column, bool placed) override;
+  void wrote(const std::string& text, int column) override;
+  void freshLine() override;
   void endedLine() override;
 
  private:
