@@ -8,18 +8,21 @@
 
 namespace tessaron::view {
 
+void paintPage(QPainter& painter, const PrintJob& job, int page, QSizeF area, double dpi) {
+  if (page < 0 || page >= static_cast<int>(job.pages.size())) return;
+  const Surface surface{QRectF(QPointF(0, 0), area), dpi / 1440.0, dpi / 96.0, &job.pictures};
+  paintOps(painter, job.pages[page].ops, surface);
+}
+
 void renderJob(const PrintJob& job, QPrinter& printer) {
   QPainter painter;
   if (!painter.begin(&printer)) return;
-  const double dpi = printer.resolution();
   // The page's origin is the printable area's corner, as the logic measures.
-  const QRectF area = printer.pageLayout().paintRectPixels(printer.resolution());
-  const Surface page{QRectF(QPointF(0, 0), area.size()), dpi / 1440.0, dpi / 96.0, &job.pictures};
-  bool first = true;
-  for (const PrintedPage& p : job.pages) {
-    if (!first) printer.newPage();
-    first = false;
-    paintOps(painter, p.ops, page);
+  const double dpi = printer.resolution();
+  const QSizeF area = printer.pageLayout().paintRectPixels(printer.resolution()).size();
+  for (int i = 0; i < static_cast<int>(job.pages.size()); ++i) {
+    if (i > 0) printer.newPage();
+    paintPage(painter, job, i, area, dpi);
   }
   painter.end();
 }
