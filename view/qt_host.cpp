@@ -1,11 +1,14 @@
 #include "view/qt_host.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QToolBar>
 
 #include "surface/printer.h"
 #include "view/metrics.h"
@@ -50,6 +53,19 @@ void QtHost::printed(const PrintJob& job) {
   preview.resize(820, 900);
   QObject::connect(&preview, &QPrintPreviewDialog::paintRequested,
                    [&job](QPrinter* p) { renderJob(job, *p); });
+  // Saving a PDF is one step from the preview, besides the print dialog's own.
+  if (auto* bar = preview.findChild<QToolBar*>()) {
+    bar->addSeparator();
+    QAction* save = bar->addAction(QStringLiteral("Save PDF..."));
+    QObject::connect(save, &QAction::triggered, &preview, [&job, &preview] {
+      const QString file = QFileDialog::getSaveFileName(&preview, QStringLiteral("Save PDF"),
+                                                        QStringLiteral("Tessaron.pdf"),
+                                                        QStringLiteral("PDF (*.pdf)"));
+      if (!file.isEmpty() && !renderJobToPdf(job, ss(file)))
+        QMessageBox::warning(&preview, QStringLiteral("Tessaron"),
+                             QStringLiteral("The PDF file could not be written."));
+    });
+  }
   preview.exec();
 }
 
