@@ -135,6 +135,11 @@ TEST_F(ViewTest, RefreshKeepsTheWidgetsInStep) {
   EXPECT_EQ(view.window(f)->windowTitle(), QStringLiteral("Renamed"));
   EXPECT_EQ(view.window(f)->width(), 6000 / 15 - view::kFrameWidthPx);
   EXPECT_EQ(f.changes, 1);
+  // The model's focus is shown on the widgets.
+  app.focus(f.control("txtName"));
+  EXPECT_EQ(view.window(f)->focusWidget(), widget("txtName"));
+  app.run([&] { f.control("hsbValue").SetFocus(); });
+  EXPECT_EQ(view.window(f)->focusWidget(), widget("hsbValue"));
 }
 
 TEST_F(ViewTest, PrintedJobRendersToPdf) {
