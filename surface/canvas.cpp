@@ -18,6 +18,14 @@ std::string Canvas::itemText(const Value& v) {
   }
 }
 
+double Canvas::twipsX() const {
+  return scaled_ && extentW_ > 0 ? (scaleX2_ - scaleX1_) / extentW_ : 1;
+}
+
+double Canvas::twipsY() const {
+  return scaled_ && extentH_ > 0 ? (scaleY2_ - scaleY1_) / extentH_ : 1;
+}
+
 void Canvas::add(DrawOp op) { ops_.push_back(std::move(op)); }
 
 void Canvas::Print(std::initializer_list<PrintItem> items, bool lineEnd) {
@@ -28,16 +36,18 @@ void Canvas::Print(std::initializer_list<PrintItem> items, bool lineEnd) {
     column_ = 1;
     freshLine();
   }
-  const double cw = columnWidth(FontSize);
+  const double cw = columnWidth(FontSize) * twipsX();
+  const double lh = lineHeight(FontSize) * twipsY();
+  const double left = scaled_ ? scaleX1_ : 0;
   for (const PrintItem& item : items) {
     if (const Tab* tab = std::get_if<Tab>(&item)) {
       const int n = tab->column < 1 ? 1 : tab->column;
       if (column_ > n) {
         endedLine();
-        CurrentY += lineHeight(FontSize);
+        CurrentY += lh;
       }
       column_ = n;
-      CurrentX = (n - 1) * cw;
+      CurrentX = left + (n - 1) * cw;
       wrote("", column_);
       continue;
     }
@@ -55,8 +65,8 @@ void Canvas::Print(std::initializer_list<PrintItem> items, bool lineEnd) {
   }
   if (lineEnd) {
     endedLine();
-    CurrentX = 0;
-    CurrentY += lineHeight(FontSize);
+    CurrentX = left;
+    CurrentY += lh;
     column_ = 1;
   }
   penX_ = CurrentX;
@@ -103,6 +113,11 @@ void Canvas::Circle(double x, double y, double radius, long colour) {
 
 void Canvas::Scale(double x1, double y1, double x2, double y2) {
   add({.kind = DrawOp::Kind::Scale, .x1 = x1, .y1 = y1, .x2 = x2, .y2 = y2});
+  scaled_ = true;
+  scaleX1_ = x1;
+  scaleY1_ = y1;
+  scaleX2_ = x2;
+  scaleY2_ = y2;
 }
 
 void Canvas::Cls() {

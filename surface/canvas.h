@@ -51,6 +51,12 @@ class Canvas {
   virtual void Cls();
 
   const std::vector<DrawOp>& ops() const { return ops_; }
+  // The drawing area in twips, so that text after a Scale advances the pen
+  // in the user's units.
+  void setExtent(double width, double height) {
+    extentW_ = width;
+    extentH_ = height;
+  }
   // Width of one character column and height of one line at a font size,
   // in twips: the column grid that `Tab(n)` counts in.
   static double columnWidth(double fontSize);
@@ -70,8 +76,13 @@ class Canvas {
 
  private:
   void add(DrawOp op);
+  double twipsX() const;  // the user's units per twip, across and down
+  double twipsY() const;
   double penX_ = 0, penY_ = 0;  // where the last Print left the pen
-  int column_ = 1;              // character column of the pen on its line
+  double extentW_ = 0, extentH_ = 0;
+  double scaleX1_ = 0, scaleY1_ = 0, scaleX2_ = 0, scaleY2_ = 0;
+  bool scaled_ = false;
+  int column_ = 1;  // character column of the pen on its line
 };
 
 }  // namespace tessaron

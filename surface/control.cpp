@@ -45,7 +45,14 @@ Control::Control(Form& form, const Design& d)
       scroll_(d.value),
       min_(d.min),
       max_(d.max) {
-  if (d.kind == ControlKind::PictureBox) canvas_ = std::make_unique<Canvas>();
+  if (d.kind == ControlKind::PictureBox) {
+    // A picture box draws with its own pen: the design's colour and font
+    // are where the pen starts.
+    canvas_ = std::make_unique<Canvas>();
+    canvas_->setExtent(d.width, d.height);
+    if (d.foreColor != kDefaultColour) canvas_->ForeColor = d.foreColor;
+    canvas_->FontSize = FontSize;
+  }
   if (d.kind == ControlKind::FlexGrid)
     grid_ = std::make_unique<Grid>(d.rows, d.cols, d.fixedRows, d.fixedCols);
 }
@@ -157,6 +164,10 @@ std::optional<Value> Control::property(std::string_view p) const {
     return Value(static_cast<double>(BackColor != kDefaultColour ? BackColor
                                      : box                       ? kWindowColour
                                                                  : kFaceColour));
+  if (canvas_) {
+    if (p == "ForeColor") return Value(static_cast<double>(canvas_->ForeColor));
+    if (p == "FontSize") return Value(canvas_->FontSize);
+  }
   if (p == "ForeColor")
     return Value(static_cast<double>(ForeColor == kDefaultColour ? 0 : ForeColor));
   if (p == "FontSize") return Value(FontSize);
