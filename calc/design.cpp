@@ -334,6 +334,9 @@ void OviCalc::bindControls() {
   cmdGraph = c("cmdGraph");
   ScrForm = c("ScrForm");
   picGraph = c("picGraph");
+  scrMem = c("scrMem");
+  imgSlide = c("imgSlide");
+  imgLine = c("imgLine");
   for (int i = 0; i <= 9; ++i) NumberC[i] = c("Number", i);
   for (int i = 0; i <= 11; ++i) OperatorC[i] = c("Operator", i);
   for (int i = 1; i <= 4; ++i) {
@@ -365,6 +368,39 @@ void OviCalc::routes() {
   click("cmdDeg", &OviCalc::cmdDeg);
   click("cmdRad", &OviCalc::cmdRad);
   click("txtKwal", &OviCalc::txtKwalClick);
+  click("Rever", &OviCalc::Rever);
+  click("Squar", &OviCalc::Squar);
+  click("Cubi", &OviCalc::Cubi);
+  click("SqRt", &OviCalc::SqRt);
+  click("CuR", &OviCalc::CuR);
+  click("exp10", &OviCalc::exp10);
+  click("Expo", &OviCalc::Expo);
+  click("Loga", &OviCalc::Loga);
+  click("NatLog", &OviCalc::NatLog);
+  click("cmdArea", &OviCalc::cmdArea);
+  click("nFac", &OviCalc::nFacKey);
+  click("SSin", &OviCalc::SSin);
+  click("Ccos", &OviCalc::Ccos);
+  click("Ttan", &OviCalc::Ttan);
+  click("Secant", &OviCalc::Secant);
+  click("Cosec", &OviCalc::Cosec);
+  click("Cotan", &OviCalc::Cotan);
+  // The twins of the prefixes run the same routines.
+  click("cmdHyp", &OviCalc::cmdHypKey);
+  click("cmdHyp2", &OviCalc::cmdHypKey);
+  click("cmdArc", &OviCalc::cmdArcKey);
+  click("cmdArc2", &OviCalc::cmdArcKey);
+  click("cmdRaDeg", &OviCalc::cmdRaDegKey);
+  click("cmdFract", &OviCalc::cmdFractKey);
+  click("cmdOctal", &OviCalc::cmdOctalKey);
+  on("lblRead2", Event::DblClick, [this](EventArgs&) { lblRead2->Visible = false; });
+  on("MMMin", Event::Click, [this](EventArgs& a) { MMMinKey(a.Index); });
+  on("MMMout", Event::Click, [this](EventArgs& a) { MMMoutKey(a.Index); });
+  on("MMMsub", Event::Click, [this](EventArgs& a) { MMMsubKey(a.Index); });
+  click("MMMclear", &OviCalc::MMMclear);
+  on("scrMem", Event::Change, [this](EventArgs&) { scrMemChange(); });
+  on("ScrForm", Event::Change, [this](EventArgs&) { ScrFormChange(); });
+  on("tmrTimer2", Event::Timer, [this](EventArgs&) { tmrTimer2(); });
   on("Form", Event::KeyPress, [this](EventArgs& a) { Form_KeyPress(a.KeyAscii); });
   on("cmdExit", Event::Click, [this](EventArgs&) { Unload(); });
 }
@@ -383,12 +419,6 @@ void OviCalc::Load() {
   Tiny = Value(1 / 1e13);
   Huge = Value(1e13);
   Margin = Value(1 / 1e11);
-  for (auto& m : vMemory) m = Value(0);
-  for (int i = 1; i <= 4; ++i) {
-    PubShow(*MMMout[i], vMemory[i]);
-    MMMout[i]->FontSize = 12;
-  }
-
   nColor = 3;
   vColorRead = {0xCCCCCC, 0x9999FF, 0x88BBFF, 0x99FFFF, 0xBBFFBB, 0xFFFFAA, 0xFFBBBB, 0xDDBBDD};
   const long form[] = {0xCCCCCC, 0x8888FF, 0x77AAFF, 0x88FFFF,
@@ -396,6 +426,8 @@ void OviCalc::Load() {
   for (int i = 0; i < 8; ++i) sColorForm[i] = std::to_string(form[i]);
   BackColor = std::stol(sColorForm[nColor]);
   Readout->BackColor = vColorRead[nColor];
+  // The memories need the colour rows for their keys.
+  loadMemories();
 
   for (Control* k : {cmdDeleteC, CancelEntryC, cmdExpC, cmdOctal, nFac, OperatorC[5], OperatorC[6]})
     k->Enabled = true;
@@ -407,6 +439,8 @@ void OviCalc::Load() {
   Cancel();
   ErrFlag = false;
   nMemLast = 0;
+  // Nothing is saved yet, so there is no list to hint at.
+  frameSlide->Visible = false;
 }
 
 }  // namespace tessaron

@@ -188,15 +188,4 @@ void OviCalc::PubIniOrder() {
   if (EqnOpen && loud()) KeyLog = true;
 }
 
-void OviCalc::pubHistSave() {
-  HistText[0] = FormulaText;
-  HistValue[0] = Value(displayValue());
-  HistColor[0] = nColor;
-  for (int i = kHistRows - 1; i >= 1; --i) {
-    HistText[i] = HistText[i - 1];
-    HistValue[i] = HistValue[i - 1];
-    HistColor[i] = HistColor[i - 1];
-  }
-}
-
 }  // namespace tessaron

@@ -298,6 +298,10 @@ void OviCalc::CancelEntry() {
 }
 
 void OviCalc::Cancel() {
+  // Moving the history bar back is part of the clearing, not a return to
+  // the calculation in hand.
+  const bool cancelling = bCancelling;
+  bCancelling = true;
   enable(PercentC, true);
   if (loud()) KeyLog = true;
   // A chain left open is kept in the history too.
@@ -345,6 +349,7 @@ void OviCalc::Cancel() {
   enable(cmdPaste, true);
   enable(cmdDeciC, true);
   if (Width < 9999) Width = 11640;
+  bCancelling = cancelling;
 }
 
 void OviCalc::cmdBack() {
@@ -355,15 +360,7 @@ void OviCalc::cmdBack() {
   if (KeyCount > 3) {
     --KeyCount;
     pubNewT();
-    // The kept keys are pressed again from a clear display; they are already
-    // in the record, so the replay does not record them twice.
-    disp() = "0";
-    colour(kBlue);
-    const bool logging = KeyLog;
-    KeyLog = false;
-    const std::vector<int> keys(KeyOrder.begin() + 3, KeyOrder.begin() + KeyCount);
-    for (int code : keys) pubCola(code);
-    KeyLog = logging;
+    replayKept();
     if (KeyCount == 3) {
       enable(cmdBackC, false);
       if (disp().empty()) disp() = "0";

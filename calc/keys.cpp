@@ -30,12 +30,36 @@ constexpr std::array<Routine, kCodes> makeTable() {
   t[18] = plain<&OviCalc::cmdOpenP>;
   t[19] = plain<&OviCalc::cmdCloseP>;
   for (int op = 20; op <= 31; ++op) t[op] = [](OviCalc& f, int code) { f.Operator(code - 20); };
+  t[34] = plain<&OviCalc::Ttan>;
+  t[35] = plain<&OviCalc::Ccos>;
+  t[36] = plain<&OviCalc::SSin>;
+  t[37] = plain<&OviCalc::Cotan>;
+  t[38] = plain<&OviCalc::Secant>;
+  t[39] = plain<&OviCalc::Cosec>;
+  t[40] = plain<&OviCalc::cmdRaDegKey>;
   t[41] = plain<&OviCalc::cmdDeg>;
   t[42] = plain<&OviCalc::cmdRad>;
+  t[43] = plain<&OviCalc::cmdHypKey>;
+  t[44] = plain<&OviCalc::cmdArcKey>;
+  t[46] = plain<&OviCalc::nFacKey>;
+  t[47] = plain<&OviCalc::cmdArea>;
   t[48] = plain<&OviCalc::cmdPythaOne>;
   t[49] = plain<&OviCalc::cmdPythaPlus>;
   t[50] = plain<&OviCalc::Percent>;
+  t[51] = plain<&OviCalc::Rever>;
+  t[52] = plain<&OviCalc::Squar>;
+  t[53] = plain<&OviCalc::Cubi>;
+  t[54] = plain<&OviCalc::exp10>;
+  t[55] = plain<&OviCalc::Expo>;
+  t[56] = plain<&OviCalc::NatLog>;
+  t[57] = plain<&OviCalc::Loga>;
+  t[58] = plain<&OviCalc::SqRt>;
+  t[59] = plain<&OviCalc::CuR>;
   t[60] = plain<&OviCalc::txtKwalClick>;
+  // A memory recall is recorded by the memory's number.
+  for (int m = 61; m <= 94; ++m) t[m] = [](OviCalc& f, int code) { f.recallCode(code); };
+  t[97] = plain<&OviCalc::cmdHypKey>;
+  t[98] = plain<&OviCalc::cmdArcKey>;
   t[99] = plain<&OviCalc::PubZeroRead>;
   return t;
 }
@@ -46,20 +70,6 @@ constexpr std::array<Routine, kCodes> kKeys = makeTable();
 void OviCalc::pubCola(int code) {
   if (code < 0 || code >= kCodes) return;
   if (const Routine r = kKeys[code]) r(*this, code);
-}
-
-void OviCalc::cmdDeg() {
-  bDegree = true;
-  if (!loud()) return;
-  cmdDegC->BackColor = 0xC0FFC0;
-  cmdRadC->BackColor = 0xC0C0C0;
-}
-
-void OviCalc::cmdRad() {
-  bDegree = false;
-  if (!loud()) return;
-  cmdRadC->BackColor = 0xC0FFC0;
-  cmdDegC->BackColor = 0xC0C0C0;
 }
 
 }  // namespace tessaron

@@ -234,6 +234,12 @@ void OviCalc::Operator(int Index) {
   if (!ErrFlag) colour(kGreen);
   sEntry[nLevel] = Entry::Ops;
   sgLastOp[nLevel] = static_cast<float>(Index);
+  // After an operator the next operand is a fresh entry, whatever stood
+  // before it: digits, Pi and the memory recalls are open again.
+  if (!ErrFlag && loud()) {
+    pubEnableB();
+    if (Index >= 5) enableFunctions(false);
+  }
 
   if (Index == 2 && EqnIdx == 0 && loud() && FormulaText.size() > 5 && FormulaText != HistText[1] &&
       !ErrFlag && !InputForm && !InputT)

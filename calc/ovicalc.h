@@ -37,6 +37,49 @@ class OviCalc : public Form, public CalcState {
   void txtKwalClick();
   void Form_KeyPress(int& KeyAscii);
 
+  // The one-operand functions.
+  void Rever();
+  void Squar();
+  void Cubi();
+  void SqRt();
+  void CuR();
+  void exp10();
+  void Expo();
+  void Loga();
+  void NatLog();
+  void cmdArea();
+  void nFacKey();
+  Value SqR(const Value& x);
+  Value CuRoot(const Value& x);
+
+  // The trigonometric family, its prefixes and the angle unit.
+  void SSin();
+  void Ccos();
+  void Ttan();
+  void Secant();
+  void Cosec();
+  void Cotan();
+  void cmdHypKey();
+  void cmdArcKey();
+  void cmdRaDegKey();
+
+  // The number views on lblRead2.
+  void cmdFractKey();
+  void cmdOctalKey();
+
+  // The memory bank.
+  void MMMinKey(int Index);
+  void MMMsubKey(int Index);
+  void MMMoutKey(int Index);
+  void scrMemChange();
+  void MMMclear();
+  // A recorded recall pressed again: the bar moves to the memory's row.
+  void recallCode(int code);
+
+  // The history view and its hint.
+  void ScrFormChange();
+  void tmrTimer2();
+
   // One recorded key code, pressed again.
   void pubCola(int code);
 
@@ -112,6 +155,14 @@ class OviCalc : public Form, public CalcState {
   void expMagnitudeCheck();
   void funcKey(int code, const char* transcript, double (*compute)(double), double limit,
                const char* refusal);
+  // The frame shared by the one-operand keys, around a computed outcome.
+  template <class Kernel>
+  void functionKey(int code, Kernel kernel);
+  void takeBack(int before);
+  void familyKey(int code, int key);
+  void loadMemories();
+  void replayKept();
+  void takeHistoryRow();
   std::string formulaNumber(double v) const;
   // Presses a key whose routine another part of the calculator registers.
   void pressKey(Control* c);
@@ -121,7 +172,8 @@ class OviCalc : public Form, public CalcState {
       *cmdDeleteC{}, *cmdBackC{}, *CancelEntryC{}, *CancelC{}, *cmdOpenPC{}, *cmdClosePC{},
       *PercentC{}, *PipiC{}, *cmdFract{}, *cmdOctal{}, *nFac{}, *cmdPaste{}, *cmdT{}, *cmdTform{},
       *cmdTvalue{}, *cmdArc{}, *cmdHyp{}, *cmdDegC{}, *cmdRadC{}, *frameRD{}, *frameSlide{},
-      *frameAssist{}, *frmEquation{}, *cmdRaDeg{}, *cmdGraph{}, *ScrForm{}, *picGraph{};
+      *frameAssist{}, *frmEquation{}, *cmdRaDeg{}, *cmdGraph{}, *ScrForm{}, *picGraph{}, *scrMem{},
+      *imgSlide{}, *imgLine{};
   std::array<Control*, 10> NumberC{};
   std::array<Control*, 12> OperatorC{};
   std::array<Control*, 5> MMMin{}, MMMout{}, MMMsub{};

@@ -63,6 +63,15 @@ struct CalcState {
   std::array<std::string, kHistRows> HistText;
   std::array<Value, kHistRows> HistValue;
   std::array<int, kHistRows> HistColor{};
+
+  // The number views' toggles: binary after fraction, hex after octal.
+  bool bFractBin = false, bOctHex = false;
+  // Keys refused and taken back; the solver reads it.
+  int nFailCount = 0;
+  // The hint's tick counter.
+  int nSlideTick = 0;
+  // Set while Cancel moves the history bar, so the bar does not replay.
+  bool bCancelling = false;
 };
 
 }  // namespace tessaron
