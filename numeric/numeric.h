@@ -43,6 +43,10 @@ double Atn(double);
 std::string Hex(const Value&);
 std::string Oct(const Value&);
 int Len(const Value&);
+// UTF-8 text as UTF-16 code units, and back: the units the text functions
+// count in, and the characters a key delivers.
+std::u16string ToUtf16(std::string_view text);
+std::string ToUtf8(std::u16string_view units);
 std::string Left(const Value&, int n);
 std::string Right(const Value&, int n);
 std::string Mid(const Value&, int start, int n);

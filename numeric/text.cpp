@@ -11,9 +11,11 @@ bool Ascii(const std::string& s) {
   return true;
 }
 
-// UTF-8 to UTF-16 code units and back; a lone surrogate left by a cut through
-// a pair is written in the three-byte form so that nothing is lost silently.
-std::u16string Units(const std::string& s) {
+}  // namespace
+
+// A lone surrogate left by a cut through a pair is written in the three-byte
+// form so that nothing is lost silently.
+std::u16string ToUtf16(std::string_view s) {
   std::u16string u;
   u.reserve(s.size());
   for (size_t i = 0; i < s.size();) {
@@ -49,10 +51,10 @@ std::u16string Units(const std::string& s) {
   return u;
 }
 
-std::string Utf8(const std::u16string& u, size_t from, size_t count) {
+std::string ToUtf8(std::u16string_view u) {
   std::string s;
-  const size_t end = from + count;
-  for (size_t i = from; i < end; ++i) {
+  const size_t end = u.size();
+  for (size_t i = 0; i < end; ++i) {
     char32_t cp = u[i];
     if (cp >= 0xD800 && cp < 0xDC00 && i + 1 < end && u[i + 1] >= 0xDC00 && u[i + 1] < 0xE000) {
       cp = 0x10000 + ((cp - 0xD800) << 10) + (u[i + 1] - 0xDC00);
@@ -77,13 +79,14 @@ std::string Utf8(const std::u16string& u, size_t from, size_t count) {
   return s;
 }
 
+namespace {
+
 // Units [from, from + count) of s, clipped to its length.
 std::string Slice(const std::string& s, size_t from, size_t count) {
   if (Ascii(s)) return from >= s.size() ? std::string() : s.substr(from, count);
-  const std::u16string u = Units(s);
+  const std::u16string u = ToUtf16(s);
   if (from >= u.size()) return std::string();
-  if (count > u.size() - from) count = u.size() - from;
-  return Utf8(u, from, count);
+  return ToUtf8(std::u16string_view(u).substr(from, count));
 }
 
 }  // namespace

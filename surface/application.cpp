@@ -5,45 +5,10 @@
 namespace tessaron {
 
 namespace {
-// The code points of UTF-8 text, one key each.
-std::vector<int> codePoints(std::string_view s) {
-  std::vector<int> out;
-  for (size_t i = 0; i < s.size();) {
-    const unsigned char c = s[i];
-    int n = c < 0x80 ? 1 : c < 0xE0 ? 2 : c < 0xF0 ? 3 : 4;
-    int cp = n == 1 ? c : c & (0x7F >> n);
-    for (int k = 1; k < n && i + k < s.size(); ++k) cp = (cp << 6) | (s[i + k] & 0x3F);
-    out.push_back(cp);
-    i += n;
-  }
-  return out;
-}
-
-std::string utf8(int cp) {
-  std::string s;
-  if (cp < 0x80) {
-    s += static_cast<char>(cp);
-  } else if (cp < 0x800) {
-    s += static_cast<char>(0xC0 | (cp >> 6));
-    s += static_cast<char>(0x80 | (cp & 0x3F));
-  } else if (cp < 0x10000) {
-    s += static_cast<char>(0xE0 | (cp >> 12));
-    s += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-    s += static_cast<char>(0x80 | (cp & 0x3F));
-  } else {
-    s += static_cast<char>(0xF0 | (cp >> 18));
-    s += static_cast<char>(0x80 | ((cp >> 12) & 0x3F));
-    s += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-    s += static_cast<char>(0x80 | (cp & 0x3F));
-  }
-  return s;
-}
-
 void dropLastCharacter(std::string& s) {
-  if (s.empty()) return;
-  size_t i = s.size() - 1;
-  while (i > 0 && (static_cast<unsigned char>(s[i]) & 0xC0) == 0x80) --i;
-  s.erase(i);
+  std::u16string units = ToUtf16(s);
+  if (!units.empty()) units.pop_back();
+  s = ToUtf8(units);
 }
 }  // namespace
 
@@ -204,7 +169,7 @@ void Application::keyToControl(Control& control, EventArgs& args) {
     if (key == 8) {
       dropLastCharacter(control.Text);
     } else if (key >= 32) {
-      control.Text += utf8(key);
+      control.Text += ToUtf8(std::u16string(1, static_cast<char16_t>(key)));
     }
     control.SelStart = Len(Value(control.Text));
     control.SelLength = 0;
@@ -259,7 +224,7 @@ void Application::type(Control& control, std::string_view text) {
     // A locked box cannot be edited, so its text cannot be deleted either.
     if (!control.design().locked) control.Text.clear();
     control.SelStart = control.SelLength = 0;
-    for (int cp : codePoints(text)) {
+    for (const char16_t cp : ToUtf16(text)) {
       if (control.form().unloading()) return;
       EventArgs args{.KeyAscii = cp};
       if (control.form().design().keyPreview) control.form().fire(nullptr, Event::KeyPress, args);
