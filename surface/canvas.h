@@ -53,6 +53,8 @@ class Canvas {
   const std::vector<DrawOp>& ops() const { return ops_; }
   // The drawing area in twips, so that text after a Scale advances the pen
   // in the user's units.
+  double extentWidth() const { return extentW_; }
+  double extentHeight() const { return extentH_; }
   void setExtent(double width, double height) {
     extentW_ = width;
     extentH_ = height;

@@ -23,7 +23,7 @@ void PrinterDevice::flushLine() {
 
 void PrinterDevice::PaintPicture(const Canvas& picture, double x, double y, double width,
                                  double height) {
-  pictures_.push_back(picture.ops());
+  pictures_.push_back({picture.ops(), picture.extentWidth(), picture.extentHeight()});
   ops_.push_back({.kind = DrawOp::Kind::Picture,
                   .x1 = x,
                   .y1 = y,

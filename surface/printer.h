@@ -14,9 +14,16 @@ struct PrintedPage {
   std::vector<DrawOp> ops;         // everything drawn, text included
 };
 
+// A picture box's drawing as PaintPicture placed it, with the box's size in
+// twips so that it scales into its rectangle on the page.
+struct PictureCopy {
+  std::vector<DrawOp> ops;
+  double width = 0, height = 0;
+};
+
 struct PrintJob {
   std::vector<PrintedPage> pages;
-  std::vector<std::vector<DrawOp>> pictures;  // what PaintPicture placed
+  std::vector<PictureCopy> pictures;
 };
 
 class PrinterDevice : public Canvas {
@@ -40,7 +47,7 @@ class PrinterDevice : public Canvas {
   void flushLine();
   std::vector<PrintedPage> pages_;
   std::vector<std::string> lines_;
-  std::vector<std::vector<DrawOp>> pictures_;
+  std::vector<PictureCopy> pictures_;
   std::string line_;
   bool lineOpen_ = false;
   PrintJob last_;

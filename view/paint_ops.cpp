@@ -76,9 +76,11 @@ void paintOps(QPainter& painter, const std::vector<DrawOp>& ops, const Surface& 
         if (!s.pictures || op.picture < 0 || op.picture >= static_cast<int>(s.pictures->size()))
           break;
         const QRectF box(m.at(op.x1, op.y1), m.at(op.x1 + op.x2, op.y1 + op.y2));
+        const PictureCopy& picture = (*s.pictures)[op.picture];
         Surface inner = s;
         inner.area = box.normalized();
-        paintOps(painter, (*s.pictures)[op.picture], inner);
+        if (picture.width > 0) inner.unitsPerTwip = inner.area.width() / picture.width;
+        paintOps(painter, picture.ops, inner);
         break;
       }
       case DrawOp::Kind::NewPage:

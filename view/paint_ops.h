@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "surface/canvas.h"
+#include "surface/printer.h"
 
 namespace tessaron::view {
 
@@ -14,7 +15,7 @@ struct Surface {
   QRectF area;           // the surface in device units
   double unitsPerTwip;   // device units per twip until a Scale says otherwise
   double unitsPerPixel;  // device units per DrawWidth pixel
-  const std::vector<std::vector<DrawOp>>* pictures = nullptr;  // for PaintPicture
+  const std::vector<PictureCopy>* pictures = nullptr;  // for PaintPicture
 };
 
 void paintOps(QPainter& painter, const std::vector<DrawOp>& ops, const Surface& surface);

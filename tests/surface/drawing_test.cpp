@@ -171,6 +171,7 @@ TEST_F(PrinterTest, NewPageStartsTheNextPageAtTheTopLeft) {
 
 TEST_F(PrinterTest, PaintPicturePlacesAPictureBoxsDrawing) {
   Canvas pic;
+  pic.setExtent(1500, 1000);
   pic.Circle(10, 10, 5, 0);
   p.PaintPicture(pic, 720, 1440, 3000, 2000);
   p.EndDoc();
@@ -179,7 +180,9 @@ TEST_F(PrinterTest, PaintPicturePlacesAPictureBoxsDrawing) {
   EXPECT_EQ(op.x1, 720);
   EXPECT_EQ(op.y2, 2000);
   ASSERT_EQ(jobs[0].pictures.size(), 1u);
-  EXPECT_EQ(jobs[0].pictures[0].size(), 1u);
+  EXPECT_EQ(jobs[0].pictures[0].ops.size(), 1u);
+  EXPECT_EQ(jobs[0].pictures[0].width, 1500) << "the box's size travels with its drawing";
+  EXPECT_EQ(jobs[0].pictures[0].height, 1000);
 }
 
 TEST_F(PrinterTest, EachDocumentStartsEmpty) {
