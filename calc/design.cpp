@@ -84,10 +84,13 @@ std::vector<Design> table() {
                .top = 1050,
                .width = 3600,
                .height = 285});
-  for (const char* img : {"imgSlide", "imgSbody", "imgLine"})
+  // The hint's pictures start where each run of tmrTimer2 ends.
+  const std::pair<const char*, int> images[] = {
+      {"imgSlide", -7590}, {"imgSbody", 0}, {"imgLine", 1446}};
+  for (auto [img, left] : images)
     t.push_back({.kind = K::Image,
                  .name = img,
-                 .left = 0,
+                 .left = left,
                  .top = 30,
                  .width = 1200,
                  .height = 225,
@@ -244,6 +247,9 @@ std::vector<Design> table() {
   t.push_back(sci("cmdFract", -1, " Frac, Binary",
                   " Show Fraction and Binary number of decimal fraction part ", 3, 6));
   t.push_back(sci("cmdOctal", -1, " Octal Hex", " Show Octal and Hexadecimal Number  ", 3, 6));
+  // Their two-word captions need a smaller face than the other keys.
+  t[t.size() - 2].fontSize = 8;
+  t.back().fontSize = 8;
   t.push_back(sci("cmdHyp", -1, "Hyp", " Hyperbolic ", 0, 7));
   t.push_back(sci("cmdArc", -1, "Arc", " Inverse Function  for Trig/Hyp ", 1, 7));
   t.push_back(sci("cmdHyp2", -1, "Hyp2", " Hyperbolic ", 2, 7));

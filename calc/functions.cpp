@@ -95,10 +95,11 @@ void OviCalc::functionKey(int code, Kernel kernel) {
       return;
   }
   if (!bParenValue) PubFormFunc(x);
+  // The reference in braces is the value as the display shows it.
   PubReadout(o.value);
   if (loud()) {
     FormulaText += o.transcript;
-    PubFormula2(o.value);
+    PubFormula2(Value(displayValue()));
   }
   PubLast();
   PubReadComma();

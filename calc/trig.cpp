@@ -32,7 +32,7 @@ void OviCalc::familyKey(int code, int key) {
   }
   if (loud()) FormulaText += o.transcript;
   PubReadout(o.value);
-  PubFormula2(o.value);
+  PubFormula2(Value(displayValue()));
   PubLast();
   PubReadComma();
 }
