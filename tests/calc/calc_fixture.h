@@ -7,32 +7,9 @@
 
 #include "calc/ovicalc.h"
 #include "surface/application.h"
+#include "tests/support/recording_host.h"
 
 namespace tessaron::test {
-
-struct Box {
-  std::string text;
-  int flags;
-  std::string title;
-};
-
-class RecordingHost : public Host {
- public:
-  std::vector<Box> boxes;
-  std::string clip;
-  std::string fatalWords;
-  int messageBox(const std::string& text, int flags, const std::string& title) override {
-    boxes.push_back({text, flags, title});
-    return 1;
-  }
-  std::string inputBox(const std::string&) override { return ""; }
-  void beep() override {}
-  void printed(const PrintJob&) override {}
-  std::string clipboardText() override { return clip; }
-  void setClipboardText(const std::string& t) override { clip = t; }
-  void fatal(const std::string& words) override { fatalWords = words; }
-  void ended() override {}
-};
 
 class CalcTest : public ::testing::Test {
  protected:

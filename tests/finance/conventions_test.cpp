@@ -5,9 +5,9 @@
 
 #include "finance/conventions.h"
 #include "surface/application.h"
-#include "tests/shell/recording_host.h"
+#include "tests/support/recording_host.h"
 
-namespace tessaron::testing {
+namespace tessaron::test {
 namespace {
 
 using K = ControlKind;
@@ -138,4 +138,4 @@ TEST_F(Conventions, AmountBoxesWithoutClearing) {
 }
 
 }  // namespace
-}  // namespace tessaron::testing
+}  // namespace tessaron::test

@@ -7,9 +7,9 @@
 #include "finance/loan.h"
 #include "shell/suite.h"
 #include "surface/application.h"
-#include "tests/shell/recording_host.h"
+#include "tests/support/recording_host.h"
 
-namespace tessaron::testing {
+namespace tessaron::test {
 
 class LoanFixture : public ::testing::Test {
  protected:
@@ -41,4 +41,4 @@ class LoanFixture : public ::testing::Test {
   Application app{host};
 };
 
-}  // namespace tessaron::testing
+}  // namespace tessaron::test

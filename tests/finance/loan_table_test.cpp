@@ -1,7 +1,7 @@
 // The amortization table: the grid, its column widths and the two printouts.
 #include "tests/finance/loan_fixture.h"
 
-namespace tessaron::testing {
+namespace tessaron::test {
 namespace {
 
 using LoanTable = LoanFixture;
@@ -169,4 +169,4 @@ TEST_F(LoanTable, FrontSummaryShowsTwoYearsAndTheLastRow) {
 }
 
 }  // namespace
-}  // namespace tessaron::testing
+}  // namespace tessaron::test

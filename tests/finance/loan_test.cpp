@@ -2,7 +2,7 @@
 // the interest-only view and the refusals.
 #include "tests/finance/loan_fixture.h"
 
-namespace tessaron::testing {
+namespace tessaron::test {
 namespace {
 
 using Loan = LoanFixture;
@@ -321,4 +321,4 @@ TEST_F(Loan, ExitUnloadsAndTheNextUseStartsAfresh) {
 }
 
 }  // namespace
-}  // namespace tessaron::testing
+}  // namespace tessaron::test

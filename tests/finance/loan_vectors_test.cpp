@@ -8,7 +8,7 @@
 
 #include "tests/finance/loan_fixture.h"
 
-namespace tessaron::testing {
+namespace tessaron::test {
 namespace {
 
 struct Case {
@@ -93,4 +93,4 @@ TEST_F(LoanVectors, AgreeWithTheIndependentComputation) {
 }
 
 }  // namespace
-}  // namespace tessaron::testing
+}  // namespace tessaron::test

@@ -2,13 +2,13 @@
 
 #include "shell/suite.h"
 #include "surface/application.h"
-#include "tests/shell/recording_host.h"
+#include "tests/support/recording_host.h"
 
 namespace tessaron {
 namespace {
 
 TEST(AboutForm, StandsBelowTheMenuAndClosesWithOK) {
-  testing::RecordingHost host;
+  test::RecordingHost host;
   Application app(host);
   registerSuite(app);
   Form& menu = app.form("frmMain");

@@ -3,7 +3,7 @@
 #include "shell/about_form.h"
 #include "shell/main_form.h"
 #include "surface/application.h"
-#include "tests/shell/recording_host.h"
+#include "tests/support/recording_host.h"
 
 namespace tessaron {
 namespace {
@@ -32,7 +32,7 @@ class MainForm : public ::testing::Test {
     for (int i = 0; i < n; ++i) app.tick(c("tmrTimer"));
   }
 
-  testing::RecordingHost host;
+  test::RecordingHost host;
   Application app{host};
   std::map<std::string, int> loads;
   // The menu and the about box alone: every other form is one this build

@@ -5,7 +5,7 @@
 
 #include "shell/print_frame.h"
 #include "surface/application.h"
-#include "tests/shell/recording_host.h"
+#include "tests/support/recording_host.h"
 
 namespace tessaron {
 namespace {
@@ -85,7 +85,7 @@ TEST(PubLogo, FillOutlineAndStrokesHaveTheirColoursAndPens) {
 }
 
 TEST(PubPrintBegin, NoPrintsNothing) {
-  testing::RecordingHost host;
+  test::RecordingHost host;
   Application app(host);
   Printing form(app);
   host.answers.push_back(7);
@@ -101,7 +101,7 @@ TEST(PubPrintBegin, NoPrintsNothing) {
 }
 
 TEST(PubPrintBegin, YesWritesTheNameAndTheMarkAtThePlace) {
-  testing::RecordingHost host;
+  test::RecordingHost host;
   Application app(host);
   Printing form(app);
   ASSERT_TRUE(PubPrintBegin(form, kPlaceFoot));

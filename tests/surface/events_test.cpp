@@ -179,7 +179,7 @@ TEST_F(EventsTest, AFailureStopsTheRoutineWhereItHappened) {
 }
 
 TEST_F(EventsTest, ServicesGoThroughTheHost) {
-  host.replies = {7};
+  host.answers = {7};
   host.inputs = {"3.5"};
   EXPECT_EQ(f->MsgBox("Sure?", 4, " Tessaron"), 7);
   EXPECT_EQ(f->MsgBox("Again?", 4, "Tessaron"), 6) << "an unqueued Yes/No box answers Yes";

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "surface/application.h"
-#include "tests/surface/recording_host.h"
+#include "tests/support/recording_host.h"
 
 namespace tessaron::test {
 

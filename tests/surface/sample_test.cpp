@@ -28,7 +28,7 @@ TEST_F(SurfaceTest, SampleFormBuildsItsControlsInTheirContainers) {
 TEST_F(SurfaceTest, SampleFormPrintsAfterAYes) {
   registerSample(app);
   Form& f = shown("frmSample");
-  host.replies = {7, 6};
+  host.answers = {7, 6};
   app.click(f.control("cmdPrint"));
   EXPECT_TRUE(host.jobs.empty());
   app.click(f.control("cmdPrint"));

@@ -6,29 +6,11 @@
 
 #include "surface/application.h"
 #include "surface/form.h"
+#include "tests/support/recording_host.h"
 
 namespace tessaron::viewtest {
 
-class RecordingHost : public Host {
- public:
-  std::vector<std::string> said;
-  int messageBox(const std::string& text, int flags, const std::string&) override {
-    said.push_back("msgbox " + text);
-    return flags == 4 ? 6 : 1;
-  }
-  std::string inputBox(const std::string&) override { return ""; }
-  void beep() override { said.push_back("beep"); }
-  void printed(const PrintJob& job) override {
-    this->job = job;
-    said.push_back("printed");
-  }
-  std::string clipboardText() override { return clip; }
-  void setClipboardText(const std::string& text) override { clip = text; }
-  void fatal(const std::string& words) override { said.push_back("fatal " + words); }
-  void ended() override { said.push_back("ended"); }
-  PrintJob job;
-  std::string clip;
-};
+using RecordingHost = test::RecordingHost;
 
 class TestForm : public Form {
  public:

@@ -154,11 +154,12 @@ TEST_F(ViewTest, PrintedJobRendersToPdf) {
     p.Print({Value("page two")});
     p.EndDoc();
   });
-  ASSERT_EQ(host.job.pages.size(), 2u);
+  ASSERT_EQ(host.jobs.size(), 1u);
+  ASSERT_EQ(host.jobs.back().pages.size(), 2u);
   const std::string file =
       QDir::temp().filePath(QStringLiteral("tessaron_view_test.pdf")).toStdString();
   QFile::remove(QString::fromStdString(file));
-  ASSERT_TRUE(view::renderJobToPdf(host.job, file));
+  ASSERT_TRUE(view::renderJobToPdf(host.jobs.back(), file));
   QFile pdf(QString::fromStdString(file));
   ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
   const QByteArray bytes = pdf.readAll();
@@ -300,7 +301,7 @@ TEST_F(ViewTest, PlayerDeliversRealInput) {
   EXPECT_EQ(QImage(QString::fromStdString(file)).size(), QSize(kFormWidth / 15, kFormHeight / 15));
   player->close(form);
   EXPECT_EQ(app.loaded("frmTest"), nullptr);
-  EXPECT_EQ(host.said.back(), "ended");
+  EXPECT_EQ(host.calls.back(), "ended");
 }
 
 }  // namespace
