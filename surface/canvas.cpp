@@ -73,42 +73,32 @@ void Canvas::Print(std::initializer_list<PrintItem> items, bool lineEnd) {
   penY_ = CurrentY;
 }
 
-void Canvas::Line(double x1, double y1, double x2, double y2, long colour) {
-  add({.kind = DrawOp::Kind::Line,
+// Every stroke draws with the pen of the moment and leaves the pen at (x, y):
+// the far corner of a line or box, the centre of a circle.
+void Canvas::stroke(DrawOp::Kind kind, double x1, double y1, double x2, double y2, long colour,
+                    double x, double y) {
+  add({.kind = kind,
        .x1 = x1,
        .y1 = y1,
        .x2 = x2,
        .y2 = y2,
-       .colour = colour,
-       .width = DrawWidth,
-       .style = DrawStyle});
-  CurrentX = x2;
-  CurrentY = y2;
-}
-
-void Canvas::Box(double x1, double y1, double x2, double y2, long colour, bool filled) {
-  add({.kind = filled ? DrawOp::Kind::FilledBox : DrawOp::Kind::Box,
-       .x1 = x1,
-       .y1 = y1,
-       .x2 = x2,
-       .y2 = y2,
-       .colour = colour,
-       .width = DrawWidth,
-       .style = DrawStyle});
-  CurrentX = x2;
-  CurrentY = y2;
-}
-
-void Canvas::Circle(double x, double y, double radius, long colour) {
-  add({.kind = DrawOp::Kind::Circle,
-       .x1 = x,
-       .y1 = y,
-       .x2 = radius,
        .colour = colour,
        .width = DrawWidth,
        .style = DrawStyle});
   CurrentX = x;
   CurrentY = y;
+}
+
+void Canvas::Line(double x1, double y1, double x2, double y2, long colour) {
+  stroke(DrawOp::Kind::Line, x1, y1, x2, y2, colour, x2, y2);
+}
+
+void Canvas::Box(double x1, double y1, double x2, double y2, long colour, bool filled) {
+  stroke(filled ? DrawOp::Kind::FilledBox : DrawOp::Kind::Box, x1, y1, x2, y2, colour, x2, y2);
+}
+
+void Canvas::Circle(double x, double y, double radius, long colour) {
+  stroke(DrawOp::Kind::Circle, x, y, radius, 0, colour, x, y);
 }
 
 void Canvas::Scale(double x1, double y1, double x2, double y2) {

@@ -78,6 +78,8 @@ class Canvas {
 
  private:
   void add(DrawOp op);
+  void stroke(DrawOp::Kind kind, double x1, double y1, double x2, double y2, long colour, double x,
+              double y);
   double twipsX() const;  // the user's units per twip, across and down
   double twipsY() const;
   double penX_ = 0, penY_ = 0;  // where the last Print left the pen
