@@ -172,8 +172,14 @@ void FinanceForm::PubYears() {
     RestMonths = Value(0);
   }
   Years = year.value();
-  if (Years == Value(table_.yearMax) && RestMonths > Value(0)) Years = Value(table_.yearMax - 1);
-  if (!InMonthScroll) Months = Years * Value(12);
+  if (Years == Value(table_.yearMax) && RestMonths > Value(0)) {
+    // The bar's last year with rest months would run past the longest term:
+    // the term keeps its months and counts one year less, while the bar
+    // stays at its end.
+    Years = Value(table_.yearMax - 1);
+  } else if (!InMonthScroll) {
+    Months = Years * Value(12);
+  }
   InMonthScroll = false;
   if (Months < Value(1)) Months = Value(1);
   month.setValue(Months);

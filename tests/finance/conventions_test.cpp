@@ -83,6 +83,25 @@ TEST_F(Conventions, StepDownFromARestKeepsTheYears) {
   EXPECT_EQ(f.Months, Value(36));
 }
 
+// Read literally, the last year's steps would recount the months as whole
+// years, and the month bar's own routine would then pull the year bar back to
+// 49. The term the bar cannot show keeps its rest months instead: the year bar
+// stays at 50 while Years counts 49.
+TEST_F(Conventions, LastYearWithRestMonthsCountsOneYearLess) {
+  frmTerm& f = open();
+  app.scroll(c("scrMonth"), 598);
+  EXPECT_EQ(bar("scrYear"), 49);
+  EXPECT_EQ(c("lblMonth").Caption, "10");
+  app.scroll(c("scrYear"), 50);
+  EXPECT_EQ(bar("scrYear"), 50);
+  EXPECT_EQ(f.Years, Value(49));
+  EXPECT_EQ(f.RestMonths, Value(10));
+  EXPECT_EQ(f.Months, Value(598));
+  EXPECT_EQ(bar("scrMonth"), 598);
+  EXPECT_EQ(c("lblYears").Caption, "49");
+  EXPECT_EQ(c("lblMonth").Caption, "10");
+}
+
 TEST_F(Conventions, EveryBarChangeCalculates) {
   frmTerm& f = open();
   const int before = f.calcs;
