@@ -34,6 +34,7 @@ void Canvas::Print(std::initializer_list<PrintItem> items, bool lineEnd) {
   const bool placed = CurrentX != penX_ || CurrentY != penY_;
   if (placed) {
     column_ = 1;
+    runFrom_ = false;
     freshLine();
   }
   const double cw = columnWidth(FontSize) * twipsX();
@@ -48,16 +49,26 @@ void Canvas::Print(std::initializer_list<PrintItem> items, bool lineEnd) {
       }
       column_ = n;
       CurrentX = left + (n - 1) * cw;
+      runFrom_ = false;
       wrote("", column_);
       continue;
     }
     const std::string text = itemText(std::get<Value>(item));
-    add({.kind = DrawOp::Kind::Text,
-         .x1 = CurrentX,
-         .y1 = CurrentY,
-         .colour = ForeColor,
-         .size = FontSize,
-         .text = text});
+    // Items that follow one another flow as one run of text in the font's
+    // own widths; only a Tab, a new line or a placement starts a new run.
+    DrawOp* run = runFrom_ && !ops_.empty() ? &ops_.back() : nullptr;
+    if (run && run->kind == DrawOp::Kind::Text && run->colour == ForeColor &&
+        run->size == FontSize) {
+      run->text += text;
+    } else {
+      add({.kind = DrawOp::Kind::Text,
+           .x1 = CurrentX,
+           .y1 = CurrentY,
+           .colour = ForeColor,
+           .size = FontSize,
+           .text = text});
+    }
+    runFrom_ = true;
     wrote(text, column_);
     const int len = Len(Value(text));
     column_ += len;
@@ -68,6 +79,7 @@ void Canvas::Print(std::initializer_list<PrintItem> items, bool lineEnd) {
     CurrentX = left;
     CurrentY += lh;
     column_ = 1;
+    runFrom_ = false;
   }
   penX_ = CurrentX;
   penY_ = CurrentY;
@@ -114,6 +126,7 @@ void Canvas::Cls() {
   ops_.clear();
   CurrentX = CurrentY = penX_ = penY_ = 0;
   column_ = 1;
+  runFrom_ = false;
 }
 
 }  // namespace tessaron

@@ -86,7 +86,9 @@ class Canvas {
   double extentW_ = 0, extentH_ = 0;
   double scaleX1_ = 0, scaleY1_ = 0, scaleX2_ = 0, scaleY2_ = 0;
   bool scaled_ = false;
-  int column_ = 1;  // character column of the pen on its line
+  int column_ = 1;
+  bool runFrom_ = false;  // the last op is text the next item continues  // character column of the
+                          // pen on its line
 };
 
 }  // namespace tessaron

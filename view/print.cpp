@@ -10,7 +10,11 @@ namespace tessaron::view {
 
 void paintPage(QPainter& painter, const PrintJob& job, int page, QSizeF area, double dpi) {
   if (page < 0 || page >= static_cast<int>(job.pages.size())) return;
-  const Surface surface{QRectF(QPointF(0, 0), area), dpi / 1440.0, dpi / 96.0, &job.pictures};
+  // A pen's width counts in the printer's own dots; the printouts were drawn
+  // for a 600-dot laser printer.
+  constexpr double kPrinterDotsPerInch = 600;
+  const Surface surface{QRectF(QPointF(0, 0), area), dpi / 1440.0, dpi / kPrinterDotsPerInch,
+                        &job.pictures};
   paintOps(painter, job.pages[page].ops, surface);
 }
 

@@ -35,16 +35,31 @@ TEST(CanvasTest, PrintWritesAtThePenAndMovesIt) {
   c.CurrentX = 100;
   c.CurrentY = 200;
   c.Print({Value("ab"), Value("cd")}, false);
-  ASSERT_EQ(c.ops().size(), 2u);
+  ASSERT_EQ(c.ops().size(), 1u) << "side by side, no separator: one run of text";
   EXPECT_EQ(c.ops()[0].kind, DrawOp::Kind::Text);
+  EXPECT_EQ(c.ops()[0].text, "abcd");
   EXPECT_EQ(c.ops()[0].x1, 100);
   EXPECT_EQ(c.ops()[0].y1, 200);
   EXPECT_EQ(c.ops()[0].size, 10);
-  EXPECT_EQ(c.ops()[1].x1, 100 + 2 * Canvas::columnWidth(10)) << "side by side, no separator";
+  EXPECT_EQ(c.CurrentX, 100 + 4 * Canvas::columnWidth(10));
   EXPECT_EQ(c.CurrentY, 200) << "a trailing ; keeps the pen on the line";
   c.Print({Value("e")});
+  ASSERT_EQ(c.ops().size(), 1u) << "the next Print flows on from the ;";
+  EXPECT_EQ(c.ops()[0].text, "abcde");
   EXPECT_EQ(c.CurrentX, 0) << "a line end returns to the left margin";
   EXPECT_EQ(c.CurrentY, 200 + Canvas::lineHeight(10));
+}
+
+TEST(CanvasTest, ATabOrAnotherColourStartsANewRun) {
+  Canvas c;
+  c.Print({Value("ab"), Tab{10}, Value("cd")}, false);
+  ASSERT_EQ(c.ops().size(), 2u);
+  EXPECT_EQ(c.ops()[1].x1, 9 * Canvas::columnWidth(c.FontSize));
+  c.ForeColor = 0xFF;
+  c.Print({Value("ef")});
+  ASSERT_EQ(c.ops().size(), 3u);
+  EXPECT_EQ(c.ops()[2].text, "ef");
+  EXPECT_EQ(c.ops()[2].colour, 0xFF);
 }
 
 TEST(CanvasTest, PrintUsesForeColorAndFontSize) {
