@@ -41,7 +41,8 @@ void PrinterDevice::NewPage() {
 }
 
 void PrinterDevice::EndDoc() {
-  NewPage();
+  // EndDoc straight after NewPage prints no blank page at the end.
+  if (lineOpen_ || !ops_.empty() || !lines_.empty() || pages_.empty()) NewPage();
   last_ = {std::move(pages_), std::move(pictures_)};
   pages_.clear();
   pictures_.clear();

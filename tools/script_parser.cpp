@@ -88,7 +88,15 @@ std::vector<Token> tokenize(std::string_view line) {
       if (i < line.size() && !blank(line[i]) && line[i] != '#')
         throw ScriptError("blank expected after text");
     } else {
-      while (i < line.size() && !blank(line[i])) t.text += line[i++];
+      // `#` ends the line wherever it stands outside text; blanks between
+      // parentheses stay inside the reference, as in `Cell(1, 2)`.
+      int depth = 0;
+      while (i < line.size() && line[i] != '#' && (depth > 0 || !blank(line[i]))) {
+        const char c = line[i++];
+        if (c == '(') ++depth;
+        if (c == ')') --depth;
+        if (!blank(c)) t.text += c;
+      }
     }
     tokens.push_back(std::move(t));
   }

@@ -46,17 +46,25 @@ std::optional<Value> propertyOf(const Control& c, const Part& p, const Reference
 }
 
 // The printed form of an expected value: text is quoted, a number is written
-// as a number prints, True and False in their own spelling.
+// as a number prints (a plain decimal), True and False in their own spelling.
 std::string wanted(const Token& t) {
   if (t.quoted) return quoted(t.text);
   std::string lower;
   for (char c : t.text) lower += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
   if (lower == "true") return "True";
   if (lower == "false") return "False";
+  return plainDecimal(t.text).value_or(t.text);
+}
+
+// A number written with more figures than a Real keeps still matches the
+// Real it reads as.
+bool sameReal(const std::string& actual, const Token& t) {
+  if (t.quoted || !plainDecimal(t.text)) return false;
   double x = 0;
-  const auto [end, ec] = std::from_chars(t.text.data(), t.text.data() + t.text.size(), x);
-  if (ec == std::errc() && end == t.text.data() + t.text.size()) return CStr(Value(x));
-  return t.text;
+  std::string_view s = t.text;
+  if (!s.empty() && s.front() == '+') s.remove_prefix(1);
+  const auto [end, ec] = std::from_chars(s.data(), s.data() + s.size(), x);
+  return ec == std::errc() && end == s.data() + s.size() && actual == printed(Value(x));
 }
 }  // namespace
 
@@ -100,7 +108,7 @@ void Runner::expect(const Args& a) {
   const auto actual = read(a[0]);
   if (!actual) return;
   const std::string want = wanted(a[1]);
-  if (*actual == want) return;
+  if (*actual == want || sameReal(*actual, a[1])) return;
   expectFailed_ = true;
   out_ << "expect failed " << line_ << ": " << a[0].text << " = " << *actual << ", wanted " << want
        << '\n';

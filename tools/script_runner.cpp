@@ -91,7 +91,11 @@ void Runner::execute(const Args& tokens) {
   }
   if (word.text == "reply") {
     arity(1, 1);
-    host_.queueReply(parseInt(args[0], "answer"));
+    const int answer = parseInt(args[0], "answer");
+    // A Yes/No box has only these two answers.
+    if (answer != 6 && answer != 7)
+      throw ScriptError("reply: 6 or 7 expected, not " + args[0].text);
+    host_.queueReply(answer);
     return;
   }
   if (word.text == "input" || word.text == "clipboard") {

@@ -61,6 +61,8 @@ std::vector<Design> frmSample::table() {
   t.push_back(button("cmdCode", -1, "Code", 4920, 2100));
   t.push_back(button("cmdToggle", -1, "Toggle", 6120, 2100));
   t.push_back(button("cmdExit", -1, "Exit", 7320, 2100));
+  t.push_back(button("cmdFar", -1, "Far", 6480, 4680));
+  t.push_back(button("cmdPages", -1, "Pages", 6480, 5160));
   t.push_back({.kind = K::Frame,
                .name = "fraChoice",
                .caption = "Choice",

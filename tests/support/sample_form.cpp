@@ -101,6 +101,8 @@ void frmSample::buttonRoutes() {
      [this](EventArgs&) { lblAnswer.Caption = CStr(CInt(Value(40000))); });
   on("cmdDraw", Event::Click, [this](EventArgs&) { PubDraw(); });
   on("cmdCode", Event::Click, [this](EventArgs&) { PubCode(); });
+  on("cmdFar", Event::Click, [this](EventArgs&) { PubFar(); });
+  on("cmdPages", Event::Click, [this](EventArgs&) { PubPages(); });
   on("cmdToggle", Event::Click, [this](EventArgs&) {
     fraChoice.Visible = !fraChoice.Visible;
     cmdOff.Enabled = !cmdOff.Enabled;
@@ -208,6 +210,38 @@ void frmSample::PubCode() {
   g.setRowHeight(2, 300);
   Caption = "Sample " + CStr(Value(2));
   hsbRate.setMax(40);
+}
+
+// Numbers far from 1, whose CStr text takes an exponent.
+void frmSample::PubFar() {
+  linRule.X1 = 1e20;
+  linRule.Y1 = -1.5e-7;
+  linRule.X2 = 123456789012345678.0;
+  Canvas& c = picDraw.picture();
+  c.CurrentX = 0.00001;
+}
+
+// A printout whose last page ends with NewPage, and the column rules of the
+// printed text: a Tab to the column the pen is at, items after text placed
+// by CurrentX and CurrentY, numbers of every kind.
+void frmSample::PubPages() {
+  PrinterDevice& p = Printer();
+  p.FontSize = 10;
+  p.Print({Value("One"), Tab(4), Value("four"), Tab(8), Value("eight")});
+  p.Print({Value("open")}, false);
+  p.CurrentX = 2000;
+  p.CurrentY = 2000;
+  p.Print({Value("placed"), Value(" then")}, false);
+  p.Print({Value(" more")});
+  p.Print({Value("after")});
+  p.Print({Value(true), Value(CDec(Value("2.50"))), Value(-0.25), Value(1e20), Value(0)});
+  p.CurrentX = 0;
+  p.CurrentY = 4000;
+  p.Print({Tab(6), Value("tab")});
+  p.NewPage();
+  p.Print({Value("Two")});
+  p.NewPage();
+  p.EndDoc();
 }
 
 }  // namespace tessaron

@@ -25,6 +25,8 @@ class frmSample : public Form {
   void PubPrint();
   void PubDraw();
   void PubCode();
+  void PubFar();
+  void PubPages();
 
   Control& lblLog = control("lblLog");
   Control& lblAnswer = control("lblAnswer");

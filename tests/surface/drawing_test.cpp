@@ -184,6 +184,24 @@ TEST_F(PrinterTest, NewPageStartsTheNextPageAtTheTopLeft) {
   EXPECT_EQ(jobs[0].pages[1].ops[0].y1, 0);
 }
 
+TEST_F(PrinterTest, EndDocRightAfterNewPageAddsNoBlankPage) {
+  p.Print({Value("one")});
+  p.NewPage();
+  p.EndDoc();
+  ASSERT_EQ(jobs.size(), 1u);
+  ASSERT_EQ(jobs[0].pages.size(), 1u);
+  EXPECT_EQ(lines(jobs[0], 0), (std::vector<std::string>{"one"}));
+}
+
+TEST_F(PrinterTest, AnEmptyLastPageStillPrintsWhenSomethingIsOnIt) {
+  p.Print({Value("one")});
+  p.NewPage();
+  p.Print({});
+  p.EndDoc();
+  ASSERT_EQ(jobs[0].pages.size(), 2u);
+  EXPECT_EQ(lines(jobs[0], 1), (std::vector<std::string>{""}));
+}
+
 TEST_F(PrinterTest, PaintPicturePlacesAPictureBoxsDrawing) {
   Canvas pic;
   pic.setExtent(1500, 1000);
