@@ -160,8 +160,9 @@ void frmLoan::cmdPrintFClick() {
 }
 
 void frmLoan::cmdPrintClick() {
-  if (!PubPrintBegin(*this, kPlaceTop)) return;
+  if (!PubPrintAsk(*this)) return;
   control("cmdReturn").SetFocus();
+  PubPageHead(*this, kPlaceTop);
   PrinterDevice& printer = Printer();
   Value colWidth;
   int decimals = 2;

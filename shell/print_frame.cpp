@@ -8,8 +8,9 @@
 
 namespace tessaron {
 
-bool PubPrintBegin(Form& form, const PrintPlace& place) {
-  if (form.MsgBox(" Print out ??? ", 4, " Tessaron") != 6) return false;
+bool PubPrintAsk(Form& form) { return form.MsgBox(" Print out ??? ", 4, " Tessaron") == 6; }
+
+void PubPageHead(Form& form, const PrintPlace& place) {
   PrinterDevice& printer = form.Printer();
   printer.CurrentX = place.nameX;
   printer.CurrentY = place.nameY;
@@ -19,6 +20,11 @@ bool PubPrintBegin(Form& form, const PrintPlace& place) {
   PubLogo(printer, place.logoLeft, place.logoTop);
   printer.FontSize = 14;
   printer.ForeColor = 0;
+}
+
+bool PubPrintBegin(Form& form, const PrintPlace& place) {
+  if (!PubPrintAsk(form)) return false;
+  PubPageHead(form, place);
   return true;
 }
 

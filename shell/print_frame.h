@@ -18,9 +18,15 @@ inline constexpr PrintPlace kPlaceTop{9000, 2000, 9800, 1900};         // the fi
 inline constexpr PrintPlace kPlaceFoot{9000, 13000, 9800, 12900};      // frmGye, OviSum
 inline constexpr PrintPlace kPlaceStatistics{9000, 9500, 9800, 9400};  // frmStatistics
 
-// Asks " Print out ??? "; on Yes writes the name and the mark and leaves the
-// printer at FontSize 14, ForeColor 0 for the form's lines, and returns true.
-// Any other answer prints nothing and returns false.
+// Asks " Print out ??? ": true only on Yes.
+bool PubPrintAsk(Form& form);
+
+// The page head: the name in small type and the mark beside it; leaves the
+// printer at FontSize 14, ForeColor 0 for the form's lines.
+void PubPageHead(Form& form, const PrintPlace& place);
+
+// The confirmation and, on Yes, the page head; returns true. Any other answer
+// prints nothing and returns false.
 bool PubPrintBegin(Form& form, const PrintPlace& place);
 
 // The mark, drawn on the printer with its centre reference at
