@@ -196,11 +196,12 @@ std::string Str(const Value& v) {
 }
 
 double Val(std::string_view t) {
-  // Blanks, tabs and line feeds are skipped wherever they stand.
+  // Blanks, tabs and line feeds are skipped wherever they stand; a carriage
+  // return is none of these, so it ends the number like any other character.
   std::string s;
   size_t i = 0;
   auto next = [&]() -> char {
-    while (i < t.size() && (t[i] == ' ' || t[i] == '\t' || t[i] == '\n' || t[i] == '\r')) ++i;
+    while (i < t.size() && (t[i] == ' ' || t[i] == '\t' || t[i] == '\n')) ++i;
     return i < t.size() ? t[i] : '\0';
   };
   char c = next();
