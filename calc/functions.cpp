@@ -91,6 +91,9 @@ void OviCalc::functionKey(int code, Kernel kernel) {
       sEntry[nLevel] = Entry::Ops;
       if (loud()) PubIniOrder();
       return;
+    case k::Act::Fail:
+      ErrFlag = true;
+      return;
     case k::Act::TakeBack:
       return;
   }

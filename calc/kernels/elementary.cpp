@@ -61,8 +61,12 @@ Outcome Cubi(const Value& x) {
 }
 
 Outcome SqRt(const Value& x, int calcStage) {
-  if (x.number() < 0)
+  if (x.number() < 0) {
+    // The solver's own evaluation only learns of the failure; a Cancel
+    // there would restart its count of steps.
+    if (calcStage == 5) return Refused(Act::Fail, "");
     return Refused(Act::Cancel, calcStage == 3 ? "  Adjust the initial value T " : kSqrRefusal);
+  }
   return Shown(SqR(x), " ^1/2 ");
 }
 

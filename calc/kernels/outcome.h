@@ -18,6 +18,7 @@ enum class Act {
   Stop,      // `formula` on lblFormula and the box; the key simply ends
   Record,    // the answer is the text `text`: box, a new history row, and
              // the display returns to "0"
+  Fail,      // a silent evaluation: no box, no Cancel, ErrFlag only
 };
 
 struct Outcome {

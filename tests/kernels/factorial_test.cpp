@@ -79,7 +79,8 @@ TEST(Factorial, RefusesWhatIsNoWholeNumber) {
 }
 
 // Each row of the checkpoint table holds (first - 1)!: 170! at 171, and so
-// on. Carrying on from there multiplies by `first` itself, so 171 gives 171!.
+// on. The key carries on from the factor after `first`, so its texts are
+// x! / first.
 TEST(Factorial, CheckpointsHoldTheFactorialBeforeTheirFirstFactor) {
   int count = 0;
   const FactorialCheckpoint* rows = FactorialCheckpoints(count);
@@ -106,7 +107,17 @@ TEST(Factorial, LargeOnesAreText) {
     ASSERT_EQ(o.act, Act::Record);
     const Parsed p = Parse(o.text);
     EXPECT_EQ(p.x, Format(Value(static_cast<double>(x)), " ###,###,###"));
-    const Reference& r = Ref(x);
+    // x! / first, from the reference of x!.
+    const long first = x < 5000000    ? 171
+                       : x < 9999999  ? 5000000
+                       : x < 50000000 ? 9999999
+                       : x < 99999999 ? 50000000
+                                      : 99999999;
+    Reference r = Ref(x);
+    const double lg = std::log10(r.mantissa) - std::log10(static_cast<double>(first));
+    const double shift = std::floor(lg);
+    r.mantissa = std::pow(10.0, lg - shift);
+    r.exponent += static_cast<long>(shift);
     EXPECT_EQ(p.exponent, r.exponent);
     // Eleven decimals shown; the checkpoints and the long products carry
     // about 10^-12 of their own.
@@ -117,8 +128,10 @@ TEST(Factorial, LargeOnesAreText) {
 }
 
 TEST(Factorial, TextLayout) {
-  // 171! = 1.2410180702176678...E+309, shown to eleven decimals.
-  EXPECT_EQ(NFac(Value(171)).text, " 171 ! = 1.24101807022E+309");
+  // 171 is the first row's own product, 170! = 7.257415615308E+306, shown to
+  // eleven decimals; 172 multiplies it by 172 alone.
+  EXPECT_EQ(NFac(Value(171)).text, " 171 ! = 7.25741561531E+306");
+  EXPECT_EQ(NFac(Value(172)).text, " 172 ! = 1.24827548583E+309");
   EXPECT_EQ(PubFactorial(3, 0, 6, 5), " 5 ! = 1.2E+2");
   // A whole mantissa keeps its point, as the mask writes it.
   EXPECT_EQ(PubFactorial(5, 0, 1, 5), " 5 ! = 1.E+0");
