@@ -198,6 +198,7 @@ std::optional<Value> Control::property(std::string_view p) const {
     if (p == "CurrentX") return Value(canvas_->CurrentX);
     if (p == "CurrentY") return Value(canvas_->CurrentY);
     if (p == "DrawWidth") return Value(canvas_->DrawWidth);
+    if (p == "DrawStyle") return Value(canvas_->DrawStyle);
   }
   if (grid_) {
     if (p == "Row") return Value(grid_->Row());

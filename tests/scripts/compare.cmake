@@ -1,12 +1,25 @@
 # Plays one golden script and compares what it printed, and its exit status,
 # with what is expected. Run as:
-#   cmake -DDRIVER=... -DSCRIPT=x.tsc -DEXPECTED=x.out -DSTATUS=N [-DGUI=ON] -P compare.cmake
+#   cmake -DDRIVER=... -DSCRIPT=x.tsc -DEXPECTED=x.out -DSTATUS=N [-DGUI=ON]
+#         [-DSTDIN=bare|dash] -P compare.cmake
+# STDIN feeds the script on standard input, with no file argument (bare) or
+# with "-" (dash).
 set(args)
 if(GUI)
   list(APPEND args --gui)
 endif()
+set(input)
+if(STDIN)
+  set(input INPUT_FILE ${SCRIPT})
+  if(STDIN STREQUAL "dash")
+    list(APPEND args -)
+  endif()
+else()
+  list(APPEND args ${SCRIPT})
+endif()
 get_filename_component(name ${SCRIPT} NAME_WE)
-execute_process(COMMAND ${DRIVER} ${args} ${SCRIPT}
+execute_process(COMMAND ${DRIVER} ${args}
+                ${input}
                 OUTPUT_VARIABLE actual
                 ERROR_VARIABLE errors
                 RESULT_VARIABLE status)

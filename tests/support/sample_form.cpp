@@ -186,6 +186,7 @@ void frmSample::PubDraw() {
   c.CurrentX = 20;
   c.CurrentY = 90;
   c.Print({Value("f(T)"), Value(2.5)});
+  c.DrawStyle = 2;
 }
 
 void frmSample::PubCode() {
