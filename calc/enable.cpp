@@ -22,9 +22,11 @@ bool tryValue(const std::string& text, double& v) {
 }
 }  // namespace
 
-// The number views and the keys for whole numbers follow the display value.
+// The number views and the keys for whole numbers follow the display value;
+// a display that is no number (an infinity's words) leaves them as the first
+// row sets them.
 static void valueKeys(OviCalc& f, Control* fract, Control* octal, Control* fac, Control* op5,
-                      Control* op6, bool typing, bool exp, double v) {
+                      Control* op6, bool typing, bool exp, const std::string& text) {
   auto integerKeys = [&](bool on) {
     fac->Enabled = on;
     op5->Enabled = on;
@@ -33,6 +35,8 @@ static void valueKeys(OviCalc& f, Control* fract, Control* octal, Control* fac, 
   fract->Enabled = false;
   octal->Visible = true;
   integerKeys(typing);
+  double v = 0;
+  if (!tryValue(text, v)) return;
   if (v != std::floor(v) && !exp) {
     fract->Enabled = true;
     octal->Visible = false;
@@ -52,7 +56,7 @@ void OviCalc::pubEnableA() {
   if (disp().empty()) disp() = "0";
   if (CalcStage > 4) return;
   double v = 0;
-  const bool numeric = tryValue(disp(), v);
+  tryValue(disp(), v);
   cmdDeleteC->Enabled = true;
   CancelEntryC->Enabled = true;
   cmdExpC->Enabled = v != 0 && !bExp;
@@ -67,8 +71,7 @@ void OviCalc::pubEnableA() {
   cmdT->Enabled = false;
   cmdT->BackColor = kTPale;
   if (!EqnOpen) {
-    if (numeric)
-      valueKeys(*this, cmdFract, cmdOctal, nFac, OperatorC[5], OperatorC[6], true, bExp, v);
+    valueKeys(*this, cmdFract, cmdOctal, nFac, OperatorC[5], OperatorC[6], true, bExp, disp());
     lblRead2->Visible = false;
   }
 }
@@ -92,9 +95,7 @@ void OviCalc::pubEnableB() {
     cmdT->BackColor = kTLit;
   }
   if (!EqnOpen) {
-    double v = 0;
-    if (tryValue(disp(), v))
-      valueKeys(*this, cmdFract, cmdOctal, nFac, OperatorC[5], OperatorC[6], false, bExp, v);
+    valueKeys(*this, cmdFract, cmdOctal, nFac, OperatorC[5], OperatorC[6], false, bExp, disp());
     lblRead2->Visible = false;
   }
 }
@@ -117,10 +118,7 @@ void OviCalc::pubEnableD() {
   cmdT->Enabled = false;
   cmdT->BackColor = kTPale;
   if (!EqnOpen) {
-    double v = 0;
-    const bool numeric = tryValue(disp(), v);
-    if (numeric)
-      valueKeys(*this, cmdFract, cmdOctal, nFac, OperatorC[5], OperatorC[6], false, bExp, v);
+    valueKeys(*this, cmdFract, cmdOctal, nFac, OperatorC[5], OperatorC[6], false, bExp, disp());
     lblRead2->Visible = false;
   }
 }

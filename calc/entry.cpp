@@ -260,12 +260,9 @@ void OviCalc::cmdDelete() {
     } else if (bExp && t.size() >= 3 && t[t.size() - 3] == 'E') {
       t.back() = '0';
     } else {
+      // Only the character goes: the commas stand where typing put them
+      // until the next digit groups the text again.
       t.pop_back();
-      // The whole digits keep the grouping they had while typing.
-      if (!bDecimal && !bExp && t != "-" && !t.empty()) {
-        const double v = displayValue();
-        t = std::fabs(v) >= 1000 ? Format(Value(v), "###,###") : CStr(Value(v));
-      }
     }
   } else {
     t = "0";
@@ -360,8 +357,21 @@ void OviCalc::cmdBack() {
   if (KeyCount > 3) {
     --KeyCount;
     pubNewT();
-    replayKept();
-    if (KeyCount == 3) {
+    const std::vector<int> kept(KeyOrder.begin() + 3, KeyOrder.begin() + KeyCount);
+    disp() = "0";
+    colour(kBlue);
+    if (KeyLog) {
+      // The angle unit the calculation began with comes back first, silently.
+      KeyLog = false;
+      if (KeyOrder[1] == 41 || KeyOrder[1] == 42) pubCola(KeyOrder[1]);
+      KeyLog = true;
+      // Each kept key records itself anew as it is pressed, so a key that
+      // looks at the key before it (a second Sign, a digit before "(") meets
+      // the record it met the first time.
+      KeyCount = 3;
+    }
+    for (int code : kept) pubCola(code);
+    if (kept.empty()) {
       enable(cmdBackC, false);
       if (disp().empty()) disp() = "0";
     }

@@ -1,3 +1,5 @@
+#include <vector>
+
 #include "calc_fixture.h"
 
 namespace tessaron::test {
@@ -102,11 +104,41 @@ TEST_F(CalcTest, BackReplaysTheChain) {
   EXPECT_EQ(display(), "17");
 }
 
+// The kept keys record themselves again as Back presses them, so the record
+// after Back is the record before the undone key, and a Sign that followed a
+// digit still acts.
+TEST_F(CalcTest, BackRebuildsTheRecord) {
+  keys("5 +/- 3");
+  EXPECT_EQ(display(), "-53");
+  const std::vector<int> before(calc->KeyOrder.begin(), calc->KeyOrder.begin() + calc->KeyCount);
+  keys("Back");
+  EXPECT_EQ(display(), "-5");
+  ASSERT_EQ(calc->KeyCount, static_cast<int>(before.size()) - 1);
+  for (int i = 0; i < calc->KeyCount; ++i) EXPECT_EQ(calc->KeyOrder[i], before[i]) << i;
+  keys("Back");
+  EXPECT_EQ(display(), "5");
+  keys("Back");
+  EXPECT_EQ(display(), "0");
+  EXPECT_FALSE(c("cmdBack").Enabled);
+  // "2 (" is kept as 2, X, ( and comes back the same.
+  keys("CA 2 ( 3 + 1 Back");
+  EXPECT_EQ(display(), "3");
+  EXPECT_EQ(c("txtKwal").Text, "1");
+  keys("2 ) =");
+  EXPECT_EQ(display(), "10");
+}
+
 TEST_F(CalcTest, DeleteDigits) {
+  // Only the last character goes; the commas stay where typing put them,
+  // and the value reads past them.
   keys("1 2 3 4 5 Del");
-  EXPECT_EQ(display(), "1,234");
+  EXPECT_EQ(display(), "12,34");
   keys("Del");
-  EXPECT_EQ(display(), "123");
+  EXPECT_EQ(display(), "12,3");
+  keys("4");
+  EXPECT_EQ(display(), "1,234");
+  keys("Del + 1 =");
+  EXPECT_EQ(display(), "124");
   keys("CA 5 +/- Del");
   EXPECT_EQ(display(), "0");
   keys("CA 2 . Del");
@@ -189,6 +221,23 @@ TEST_F(CalcTest, RefusalsAtTheLimit) {
   EXPECT_EQ(calc->PubOPX('/', Value(1e300), Value(1e-8)).number(), 1e308);
   EXPECT_EQ(calc->PubOPX('/', Value(1e-300), Value(1e300)).number(), 0.0);
   EXPECT_TRUE(host.boxes.empty());
+}
+
+// Words on the display (an infinity) are no value: the keys of whole numbers
+// fall to the first row of the rule, the views to their plain places.
+TEST_F(CalcTest, WordsOnTheDisplayTakeTheFirstRow) {
+  keys("5");
+  ASSERT_TRUE(c("nFac").Enabled);
+  c("Readout").Caption = " + - infinity ";
+  calc->pubEnableD();
+  EXPECT_FALSE(c("nFac").Enabled);
+  EXPECT_FALSE(c("Operator", 5).Enabled);
+  EXPECT_FALSE(c("Operator", 6).Enabled);
+  EXPECT_FALSE(c("cmdFract").Enabled);
+  EXPECT_TRUE(c("cmdOctal").Visible);
+  calc->pubEnableA();
+  EXPECT_TRUE(c("nFac").Enabled);
+  EXPECT_FALSE(c("cmdExp").Enabled);
 }
 
 }  // namespace tessaron::test
