@@ -13,8 +13,11 @@ constexpr long kLit = 0xC0FFC0, kUnlit = 0xC0C0C0;
 }  // namespace
 
 void OviCalc::familyKey(int code, int key) {
-  // The prefixes are read before the opening act of the key puts them out.
+  // The prefixes are read before the opening act of the key puts them out,
+  // and serve this key alone: a silent replay, whose opening act leaves
+  // them, must not carry them on to the next key or the next replay.
   const bool arc = bArc, hyp = bHyp;
+  bArc = bHyp = false;
   takeHistoryRow();
   PubSetting();
   logKey(code);
