@@ -50,6 +50,8 @@ bool Runner::play(std::istream& in) {
   std::string text;
   while (std::getline(in, text)) {
     ++line_;
+    // An editor may start a UTF-8 file with a byte order mark.
+    if (line_ == 1 && text.starts_with("\xEF\xBB\xBF")) text.erase(0, 3);
     try {
       const std::vector<Token> tokens = tokenize(text);
       if (!tokens.empty()) execute(tokens);
