@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -88,8 +89,9 @@ Qt::Alignment cellAlignment(int a, const std::string& text) {
       return Qt::AlignRight | Qt::AlignBottom;
     default: {
       // The grid's own rule: numbers to the right, text to the left.
+      // Grouped figures such as "2,849.04" are numbers too.
       bool number = false;
-      QString::fromStdString(text).trimmed().toDouble(&number);
+      QString::fromStdString(text).trimmed().remove(QLatin1Char(',')).toDouble(&number);
       return (number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
     }
   }
@@ -323,6 +325,14 @@ void FormWindow::syncGrid(Item& item) {
       last = cell;
       QTableWidgetItem* it = table->item(r, k);
       it->setText(shownText(cell.text));
+      if (r == 0 && g.FixedRows() == 1) {
+        // The fixed row stands in the header, so it stays on view as the
+        // rows scroll.
+        auto* head = table->horizontalHeaderItem(k);
+        if (!head) table->setHorizontalHeaderItem(k, head = new QTableWidgetItem);
+        head->setText(shownText(cell.text));
+        head->setFont(formFont(cell.fontSize > 0 ? cell.fontSize : item.control->FontSize));
+      }
       it->setFont(formFont(cell.fontSize > 0 ? cell.fontSize : item.control->FontSize));
       it->setTextAlignment(cellAlignment(cell.alignment, cell.text));
     }
@@ -337,6 +347,8 @@ void FormWindow::syncGrid(Item& item) {
     if (g.RowHeight(r) != item.rowHeights[r]) {
       item.rowHeights[r] = g.RowHeight(r);
       table->setRowHeight(r, std::max(1, px(g.RowHeight(r))));
+      if (r == 0 && g.FixedRows() == 1)
+        table->horizontalHeader()->setFixedHeight(std::max(1, px(g.RowHeight(0))));
     }
   if (table->currentRow() != g.Row() || table->currentColumn() != g.Col())
     table->setCurrentCell(g.Row(), g.Col(), QItemSelectionModel::NoUpdate);

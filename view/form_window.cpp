@@ -177,6 +177,11 @@ QWidget* FormWindow::create(Item& item) {
           }
           table->setItem(r, k, cell);
         }
+      if (g.FixedRows() == 1 && g.Rows() > 1) {
+        table->horizontalHeader()->show();
+        table->horizontalHeader()->setSectionsClickable(false);
+        table->setRowHidden(0, true);
+      }
       connect(table, &QTableWidget::cellClicked, this, [this, &item](int row, int col) {
         if (!form_ || view_.app().busy()) return;
         view_.app().cell(*item.control, row, col);
