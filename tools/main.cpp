@@ -15,6 +15,7 @@
 #include "tools/script_runner.h"
 #if TESSARON_GUI
 #include "view/gui_player.h"
+#include "view/print.h"
 #endif
 
 namespace {
@@ -29,11 +30,14 @@ void registerForms(tessaron::Application& app) {
 int main(int argc, char** argv) {
   using namespace tessaron;
   bool gui = false;
+  std::string pdf;  // with --gui: each printout also goes to this PDF file
   std::vector<std::string> files;
   for (int i = 1; i < argc; ++i) {
     const std::string arg = argv[i];
     if (arg == "--gui") {
       gui = true;
+    } else if (arg == "--pdf" && i + 1 < argc) {
+      pdf = argv[++i];
     } else if (arg.size() > 1 && arg[0] == '-' && arg != "-") {
       std::cout << "error 0: unknown option " << arg << '\n';
       return kScriptError;
@@ -53,6 +57,14 @@ int main(int argc, char** argv) {
   if (gui) {
 #if TESSARON_GUI
     player = makeGuiPlayer(app, qtArgc, argv);
+    if (!pdf.empty()) {
+      // The first printout takes the name as given, later ones a number.
+      host.alsoPrint = [pdf, n = 0](const PrintJob& job) mutable {
+        const std::string stem =
+            pdf.size() > 4 && pdf.ends_with(".pdf") ? pdf.substr(0, pdf.size() - 4) : pdf;
+        view::renderJobToPdf(job, ++n == 1 ? pdf : stem + "-" + std::to_string(n) + ".pdf");
+      };
+    }
 #else
     std::cout << "error 0: --gui is not available in this build\n";
     return kScriptError;

@@ -46,6 +46,7 @@ void ScriptHost::printed(const PrintJob& job) {
     for (const std::string& line : page.lines) out_ << "| " << line << '\n';
   }
   out_ << "printout end\n";
+  if (alsoPrint) alsoPrint(job);
 }
 
 void ScriptHost::fatal(const std::string& words) {

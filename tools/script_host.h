@@ -3,6 +3,7 @@
 // answered from a queue of scripted answers, the bell, the printer's spooler
 // and the clipboard, each reported on the output as the user would see it.
 #include <deque>
+#include <functional>
 #include <ostream>
 #include <string>
 
@@ -13,6 +14,9 @@ namespace tessaron::script {
 class ScriptHost : public Host {
  public:
   explicit ScriptHost(std::ostream& out) : out_(out) {}
+
+  // Also hands each finished job to a real device (the --pdf option).
+  std::function<void(const PrintJob&)> alsoPrint;
 
   void queueReply(int answer) { replies_.push_back(answer); }
   void queueInput(std::string text) { inputs_.push_back(std::move(text)); }
