@@ -270,6 +270,14 @@ std::vector<Design> table() {
   }
   t.back().backColor = 0xC0C0C0;
   t[t.size() - 2].backColor = 0xC0FFC0;
+  // The help page, opened by a double click as on the menu.
+  t.push_back({.kind = K::OlePackage,
+               .name = "oleHelp",
+               .left = sciX(3) + (kSciW - 480) / 2,
+               .top = sciY(8) + 60,
+               .width = 480,
+               .height = 480,
+               .picture = ":/help/Help.html"});
 
   // The function tool's aids open beyond the right edge (the form widens).
   t.push_back({.kind = K::Frame,

@@ -240,4 +240,9 @@ TEST_F(CalcTest, WordsOnTheDisplayTakeTheFirstRow) {
   EXPECT_FALSE(c("cmdExp").Enabled);
 }
 
+TEST_F(CalcTest, TheHelpPageIsCarriedOnTheForm) {
+  EXPECT_EQ(c("oleHelp").kind(), ControlKind::OlePackage);
+  EXPECT_EQ(c("oleHelp").design().picture, ":/help/Help.html");
+  EXPECT_TRUE(c("oleHelp").shown());
+}
 }  // namespace tessaron::test
