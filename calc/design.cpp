@@ -85,16 +85,21 @@ std::vector<Design> table() {
                .width = 3600,
                .height = 285});
   // The hint's pictures start where each run of tmrTimer2 ends.
-  const std::pair<const char*, int> images[] = {
-      {"imgSlide", -7590}, {"imgSbody", 0}, {"imgLine", 1446}};
-  for (auto [img, left] : images)
+  const struct {
+    const char* name;
+    int left;
+    const char* picture;
+  } images[] = {
+      {"imgSlide", -7590, "hintslide"}, {"imgSbody", 0, "hintbody"}, {"imgLine", 1446, "hintline"}};
+  for (const auto& img : images)
     t.push_back({.kind = K::Image,
-                 .name = img,
-                 .left = left,
+                 .name = img.name,
+                 .left = img.left,
                  .top = 30,
                  .width = 1200,
                  .height = 225,
-                 .container = "frameSlide"});
+                 .container = "frameSlide",
+                 .picture = img.picture});
   t.push_back({.kind = K::Label,
                .name = "lblRead2",
                .left = 4020,
