@@ -7,18 +7,10 @@
 #include <string>
 
 #include "numeric/numeric.h"
+#include "tests/numeric/helpers.h"
 
 namespace tessaron {
 namespace {
-
-std::string Words(const std::function<void()>& f) {
-  try {
-    f();
-  } catch (const Failure& e) {
-    return e.what();
-  }
-  return "";
-}
 
 struct TextRow {
   Value v;

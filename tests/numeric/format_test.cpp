@@ -5,24 +5,10 @@
 #include <string>
 
 #include "numeric/numeric.h"
+#include "tests/numeric/helpers.h"
 
 namespace tessaron {
 namespace {
-
-struct Row {
-  const char* mask;
-  Value v;
-  const char* text;
-};
-
-void Check(const Row* rows, size_t n) {
-  for (size_t i = 0; i < n; ++i) {
-    const Row& r = rows[i];
-    EXPECT_EQ(Format(r.v, r.mask), r.text) << "mask \"" << r.mask << "\" value " << CStr(r.v);
-  }
-}
-
-Value D(const char* text) { return CDec(Value(text)); }
 
 TEST(Format, WorkedRows) {
   const Row rows[] = {

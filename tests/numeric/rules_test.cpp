@@ -9,20 +9,10 @@
 #include <string>
 
 #include "numeric/numeric.h"
+#include "tests/numeric/helpers.h"
 
 namespace tessaron {
 namespace {
-
-Value D(const char* text) { return CDec(Value(text)); }
-
-std::string Words(const std::function<void()>& f) {
-  try {
-    f();
-  } catch (const Failure& e) {
-    return e.what();
-  }
-  return "";
-}
 
 const char* kInvalid = "Invalid procedure call or argument";
 

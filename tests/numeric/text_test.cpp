@@ -7,18 +7,10 @@
 #include <string>
 
 #include "numeric/numeric.h"
+#include "tests/numeric/helpers.h"
 
 namespace tessaron {
 namespace {
-
-std::string Words(const std::function<void()>& f) {
-  try {
-    f();
-  } catch (const Failure& e) {
-    return e.what();
-  }
-  return "";
-}
 
 const char* kHangul = "\xED\x95\x9C\xEA\xB8\x80";  // two syllables
 const char* kFace =

@@ -6,21 +6,10 @@
 #include <string>
 
 #include "numeric/numeric.h"
+#include "tests/numeric/helpers.h"
 
 namespace tessaron {
 namespace {
-
-Value D(const char* text) { return CDec(Value(text)); }
-
-// Runs f and returns the failure's words, or "" if it did not fail.
-std::string Words(const std::function<void()>& f) {
-  try {
-    f();
-  } catch (const Failure& e) {
-    return e.what();
-  }
-  return "";
-}
 
 struct ArithRow {
   const char* name;
