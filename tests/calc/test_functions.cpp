@@ -96,8 +96,8 @@ TEST_F(CalcTest, RecallCodesMoveTheStripAndKeepTheirOffByOne) {
   // 61-64: bar at 0; 65-91: bar at code - 64, fourth row; 92-94: bar at 29,
   // row code - 90, which is memory code - 61: memory 32 (92) reads 31 and
   // memory 33 (93) reads 32.
-  const std::vector<std::pair<int, int>> expected = {
-      {61, 101}, {64, 104}, {65, 105}, {80, 120}, {91, 131}, {92, 131}, {93, 132}, {94, 133}};
+  const std::vector<std::pair<int, int>> expected = {{61, 101}, {64, 104}, {65, 105}, {80, 120},
+                                                     {91, 131}, {92, 131}, {93, 132}, {94, 133}};
   for (auto [code, want] : expected) {
     silent(*calc, {32, 41, 99, code});
     EXPECT_EQ(calc->displayValue(), want) << "code " << code;
