@@ -108,30 +108,14 @@ void OviCalc::functionKey(int code, Kernel kernel) {
   PubReadComma();
 }
 
-void OviCalc::Rever() {
-  functionKey(51, [](const Value& x) { return k::Rever(x); });
-}
-void OviCalc::Squar() {
-  functionKey(52, [](const Value& x) { return k::Squar(x); });
-}
-void OviCalc::Cubi() {
-  functionKey(53, [](const Value& x) { return k::Cubi(x); });
-}
-void OviCalc::CuR() {
-  functionKey(59, [](const Value& x) { return k::CuR(x); });
-}
-void OviCalc::exp10() {
-  functionKey(54, [](const Value& x) { return k::Exp10(x); });
-}
-void OviCalc::Expo() {
-  functionKey(55, [](const Value& x) { return k::Expo(x); });
-}
-void OviCalc::cmdArea() {
-  functionKey(47, [](const Value& x) { return k::CmdArea(x); });
-}
-void OviCalc::nFacKey() {
-  functionKey(46, [](const Value& x) { return k::NFac(x); });
-}
+void OviCalc::Rever() { functionKey(51, k::Rever); }
+void OviCalc::Squar() { functionKey(52, k::Squar); }
+void OviCalc::Cubi() { functionKey(53, k::Cubi); }
+void OviCalc::CuR() { functionKey(59, k::CuR); }
+void OviCalc::exp10() { functionKey(54, k::Exp10); }
+void OviCalc::Expo() { functionKey(55, k::Expo); }
+void OviCalc::cmdArea() { functionKey(47, k::CmdArea); }
+void OviCalc::nFacKey() { functionKey(46, k::NFac); }
 
 void OviCalc::SqRt() {
   const int stage = CalcStage;

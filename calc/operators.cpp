@@ -184,12 +184,7 @@ void OviCalc::Operator(int Index) {
     PubReadout(vFuncX[lv]);
     sShown[lv] = disp();
   } else {
-    if (sgLastOp[lv] > 4) {
-      vFuncY[lv] = Value(displayValue());
-      vFuncX[lv] = PubOPY(static_cast<int>(sgLastOp[lv]), vFuncX[lv], vFuncY[lv]);
-      PubReadout(vFuncX[lv]);
-      sShown[lv] = disp();
-    }
+    foldPendingPower(lv);
     if (sEntry[lv] == Entry::Nums) sgCount[lv] += 1;
     const char caption = kCaption[Index];
     if (sgCount[lv] == 1) {
@@ -327,6 +322,16 @@ void OviCalc::cmdOpenP() {
   }
 }
 
+// A two-operand key (x^y and its kin) waiting on this level takes the display
+// as its second operand, and its result stands on the display.
+void OviCalc::foldPendingPower(int lv) {
+  if (sgLastOp[lv] <= 4) return;
+  vFuncY[lv] = Value(displayValue());
+  vFuncX[lv] = PubOPY(static_cast<int>(sgLastOp[lv]), vFuncX[lv], vFuncY[lv]);
+  PubReadout(vFuncX[lv]);
+  sShown[lv] = disp();
+}
+
 void OviCalc::cmdCloseP() {
   PubSetting();
   logKey(19);
@@ -342,12 +347,7 @@ void OviCalc::cmdCloseP() {
   bResult = false;
   if (loud()) FormulaText += " ) ";
   sShown[lv] = disp();
-  if (sgLastOp[lv] > 4) {
-    vFuncY[lv] = Value(displayValue());
-    vFuncX[lv] = PubOPY(static_cast<int>(sgLastOp[lv]), vFuncX[lv], vFuncY[lv]);
-    PubReadout(vFuncX[lv]);
-    sShown[lv] = disp();
-  }
+  foldPendingPower(lv);
   if (sEntry[lv] == Entry::Nums) sgCount[lv] += 1;
   if (sgCount[lv] == 1) {
     vAcc[lv] = Value(displayValue());

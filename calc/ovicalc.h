@@ -158,6 +158,7 @@ class OviCalc : public Form, public CalcState {
   // The frame shared by the one-operand keys, around a computed outcome.
   template <class Kernel>
   void functionKey(int code, Kernel kernel);
+  void foldPendingPower(int lv);
   void takeBack(int before);
   void familyKey(int code, int key);
   void loadMemories();

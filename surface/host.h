@@ -29,6 +29,23 @@ class Host {
   virtual void ended() = 0;
 };
 
+// Answers every box at once (Yes to a question) and tells nothing: for an
+// application that runs without a user, such as a silent replay or a look at
+// which controls a form has.
+class QuietHost : public Host {
+ public:
+  int messageBox(const std::string&, int flags, const std::string&) override {
+    return flags == 4 ? 6 : 1;
+  }
+  std::string inputBox(const std::string&) override { return ""; }
+  void beep() override {}
+  void printed(const PrintJob&) override {}
+  std::string clipboardText() override { return ""; }
+  void setClipboardText(const std::string&) override {}
+  void fatal(const std::string&) override {}
+  void ended() override {}
+};
+
 class Observer {
  public:
   virtual ~Observer() = default;

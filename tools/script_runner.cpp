@@ -6,26 +6,8 @@
 
 namespace tessaron::script {
 
-namespace {
-// Answers every box at once and tells nothing: the host of the private
-// application that only shows which controls a form has.
-class SilentHost : public Host {
- public:
-  int messageBox(const std::string&, int flags, const std::string&) override {
-    return flags == 4 ? 6 : 1;
-  }
-  std::string inputBox(const std::string&) override { return ""; }
-  void beep() override {}
-  void printed(const PrintJob&) override {}
-  std::string clipboardText() override { return ""; }
-  void setClipboardText(const std::string&) override {}
-  void fatal(const std::string&) override {}
-  void ended() override {}
-};
-}  // namespace
-
 struct Runner::Probe {
-  SilentHost host;
+  QuietHost host;
   Application app{host};
 };
 

@@ -296,22 +296,27 @@ void FormWindow::syncText(Item& item) {
   }
 }
 
+// Grows the table to the grid's row count; fixed cells wear the button face.
+void FormWindow::addGridRows(QTableWidget& table, const Grid& g) {
+  const int had = table.rowCount();
+  table.setRowCount(g.Rows());
+  for (int r = had; r < g.Rows(); ++r)
+    for (int k = 0; k < g.Cols(); ++k) {
+      auto* cell = new QTableWidgetItem;
+      if (r < g.FixedRows() || k < g.FixedCols()) {
+        cell->setBackground(QApplication::palette().color(QPalette::Button));
+        cell->setForeground(QApplication::palette().color(QPalette::ButtonText));
+      }
+      table.setItem(r, k, cell);
+    }
+}
+
 void FormWindow::syncGrid(Item& item) {
   const Grid& g = item.control->grid();
   auto* table = static_cast<QTableWidget*>(item.widget);
   // The logic may change the row count (a table as long as the loan's term).
   if (table->rowCount() != g.Rows()) {
-    const int had = table->rowCount();
-    table->setRowCount(g.Rows());
-    for (int r = had; r < g.Rows(); ++r)
-      for (int k = 0; k < g.Cols(); ++k) {
-        auto* cell = new QTableWidgetItem;
-        if (r < g.FixedRows() || k < g.FixedCols()) {
-          cell->setBackground(QApplication::palette().color(QPalette::Button));
-          cell->setForeground(QApplication::palette().color(QPalette::ButtonText));
-        }
-        table->setItem(r, k, cell);
-      }
+    addGridRows(*table, g);
   }
   const size_t n = static_cast<size_t>(g.Rows()) * g.Cols();
   if (item.cells.size() != n) item.cells.assign(n, Grid::Cell{"", -2, -2});

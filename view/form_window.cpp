@@ -155,7 +155,7 @@ QWidget* FormWindow::create(Item& item) {
       break;
     case ControlKind::FlexGrid: {
       const Grid& g = c.grid();
-      auto* table = new QTableWidget(g.Rows(), g.Cols(), this);
+      auto* table = new QTableWidget(0, g.Cols(), this);
       table->horizontalHeader()->hide();
       table->verticalHeader()->hide();
       table->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -168,15 +168,7 @@ QWidget* FormWindow::create(Item& item) {
       table->verticalHeader()->setMinimumSectionSize(0);
       table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
       table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-      for (int r = 0; r < g.Rows(); ++r)
-        for (int k = 0; k < g.Cols(); ++k) {
-          auto* cell = new QTableWidgetItem;
-          if (r < g.FixedRows() || k < g.FixedCols()) {
-            cell->setBackground(QApplication::palette().color(QPalette::Button));
-            cell->setForeground(QApplication::palette().color(QPalette::ButtonText));
-          }
-          table->setItem(r, k, cell);
-        }
+      addGridRows(*table, g);
       if (g.FixedRows() == 1 && g.Rows() > 1) {
         table->horizontalHeader()->show();
         table->horizontalHeader()->setSectionsClickable(false);

@@ -10,9 +10,12 @@
 #include <string>
 #include <vector>
 
+class QTableWidget;
+
 namespace tessaron {
 class Form;
 class Control;
+class Grid;
 }  // namespace tessaron
 
 namespace tessaron::view {
@@ -59,6 +62,7 @@ class FormWindow : public QWidget {
   void syncItem(Item& item);
   void syncText(Item& item);
   void syncGrid(Item& item);
+  static void addGridRows(QTableWidget& table, const Grid& g);
   void syncTimer(Item& item);
   void key(Item* item, QKeyEvent* event);
   void clicked(Item& item);

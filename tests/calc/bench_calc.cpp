@@ -10,18 +10,6 @@
 namespace {
 using namespace tessaron;
 
-class QuietHost : public Host {
- public:
-  int messageBox(const std::string&, int, const std::string&) override { return 1; }
-  std::string inputBox(const std::string&) override { return ""; }
-  void beep() override {}
-  void printed(const PrintJob&) override {}
-  std::string clipboardText() override { return ""; }
-  void setClipboardText(const std::string&) override {}
-  void fatal(const std::string&) override {}
-  void ended() override {}
-};
-
 // ( 2 + 3 X 4 ) / 7 - 1.5 = behind the three header keys.
 const std::vector<int> kList = {32, 41, 99, 18, 2, 20, 3, 23, 4, 19, 24, 7, 21, 1, 11, 5, 22};
 
