@@ -4,7 +4,7 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
-#include "shell/suite.h"
+#include "suite/suite.h"
 #include "surface/application.h"
 #include "view/qt_host.h"
 #include "view/qt_view.h"

@@ -52,6 +52,9 @@ std::string Right(const Value&, int n);
 std::string Mid(const Value&, int start, int n);
 std::string Mid(const Value&, int start);  // to the end
 std::string Space(int n);
+// True when the text is a run of 1 to `most` blanks and nothing else: the
+// forms' test that a box holding only blanks counts as empty.
+bool IsBlankRun(std::string_view text, int most);
 long Rgb(int r, int g, int b);
 long QBColor(int n);
 

@@ -129,6 +129,11 @@ std::string Space(int n) {
   return std::string(static_cast<size_t>(n), ' ');
 }
 
+bool IsBlankRun(std::string_view text, int most) {
+  return !text.empty() && static_cast<int>(text.size()) <= most &&
+         text.find_first_not_of(' ') == std::string_view::npos;
+}
+
 namespace {
 std::string Radix(const Value& v, unsigned shift) {
   // After CLng; a negative value reads as its 32-bit two's complement.

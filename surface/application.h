@@ -76,6 +76,8 @@ class Application {
   Host& host_;
   Observer* observer_ = nullptr;
   std::map<std::string, Factory, std::less<>> factories_;
+  // Form::kept records by form name; declared first, so they outlive the forms.
+  std::map<std::string, std::shared_ptr<void>, std::less<>> kept_;
   std::vector<std::unique_ptr<Form>> forms_;     // loaded, in order of loading
   std::vector<std::unique_ptr<Form>> unloaded_;  // discarded once the event ends
   PrinterDevice printer_;

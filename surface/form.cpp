@@ -31,6 +31,8 @@ void Form::Show() {
 
 void Form::Unload() { app_.unload(*this); }
 
+std::shared_ptr<void>& Form::keptSlot() { return app_.kept_[name_]; }
+
 Control* Form::find(std::string_view name, int index) const {
   for (const auto& c : controls_)
     if (c->name() == name && c->index() == index) return c.get();

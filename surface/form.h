@@ -2,6 +2,8 @@
 // The chief header of the form surface. A form is its design table plus its
 // event routines; form-level values are members of the derived class, so an
 // Unload that discards the object returns the form to its starting values.
+// Values a form must keep across Unload (a chart, a data sheet) live in a
+// kept<S>() record instead, which the application holds for the whole run.
 #include <memory>
 #include <string>
 #include <string_view>
@@ -69,8 +71,18 @@ class Form {
   // Any form property by its name, for the script driver.
   std::optional<Value> property(std::string_view name) const;
 
+  // The form's record of values that outlive Unload: made at first use, and
+  // the same record for every later load of this form during the run.
+  template <class S>
+  S& kept() {
+    std::shared_ptr<void>& slot = keptSlot();
+    if (!slot) slot = std::make_shared<S>();
+    return *static_cast<S*>(slot.get());
+  }
+
  private:
   friend class Application;
+  std::shared_ptr<void>& keptSlot();
   struct Route {
     std::string control;
     Event event;

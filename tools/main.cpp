@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/suite.h"
+#include "suite/suite.h"
 #include "surface/application.h"
 #include "tests/support/sample_form.h"
 #include "tools/model_player.h"

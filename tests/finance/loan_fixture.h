@@ -5,7 +5,7 @@
 #include <string>
 
 #include "finance/loan.h"
-#include "shell/suite.h"
+#include "suite/suite.h"
 #include "surface/application.h"
 #include "tests/support/recording_host.h"
 

@@ -53,6 +53,16 @@ TEST(Text, Space) {
   EXPECT_EQ(Words([] { Space(-1); }), "Invalid procedure call or argument");
 }
 
+TEST(Text, IsBlankRun) {
+  EXPECT_TRUE(IsBlankRun(" ", 23));
+  EXPECT_TRUE(IsBlankRun(std::string(23, ' '), 23));
+  EXPECT_FALSE(IsBlankRun(std::string(24, ' '), 23)) << "a longer run is no blank";
+  EXPECT_FALSE(IsBlankRun("", 23));
+  EXPECT_FALSE(IsBlankRun(" 1 ", 23));
+  EXPECT_TRUE(IsBlankRun("      ", 6));
+  EXPECT_FALSE(IsBlankRun("       ", 6));
+}
+
 TEST(Text, HexOct) {
   EXPECT_EQ(Hex(Value(255)), "FF");
   EXPECT_EQ(Hex(Value(0)), "0");

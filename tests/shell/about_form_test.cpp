@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "shell/suite.h"
+#include "suite/suite.h"
 #include "surface/application.h"
 #include "tests/support/recording_host.h"
 

@@ -51,6 +51,21 @@ TEST_F(LifecycleTest, UnloadDiscardsValuesAndTheNextUseLoadsAfresh) {
   EXPECT_EQ(loads, 3);
 }
 
+struct Sheet {
+  std::vector<int> cells;
+};
+
+TEST_F(LifecycleTest, KeptValuesOutliveUnloadAndBelongToTheirForm) {
+  shown("frmB");
+  Form& a = shown("frmA");
+  a.kept<Sheet>().cells.push_back(7);
+  app.close(a);
+  Form& again = shown("frmA");
+  EXPECT_EQ(again.control("txtA").Text, "loaded") << "controls still load afresh";
+  EXPECT_EQ(again.kept<Sheet>().cells, std::vector<int>{7});
+  EXPECT_TRUE(app.form("frmB").kept<Sheet>().cells.empty()) << "each form its own record";
+}
+
 TEST_F(LifecycleTest, ApplicationEndsWhenTheLastFormIsUnloaded) {
   Form& a = shown("frmA");
   Form& b = shown("frmB");

@@ -6,7 +6,7 @@
 #include <QFile>
 #include <QString>
 
-#include "shell/suite.h"
+#include "suite/suite.h"
 #include "surface/application.h"
 #include "tests/support/recording_host.h"
 #include "view/art.h"

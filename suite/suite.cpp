@@ -1,4 +1,4 @@
-#include "shell/suite.h"
+#include "suite/suite.h"
 
 #include "calc/ovicalc.h"
 #include "finance/loan.h"
