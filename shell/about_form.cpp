@@ -37,7 +37,8 @@ std::vector<Design> designTable() {
 }  // namespace
 
 frmAbout::frmAbout(Application& app)
-    : Form(app, "frmAbout", {.caption = "  About  Tessaron", .width = 6600, .height = 3720},
+    : Form(app, "frmAbout",
+           {.caption = "  About  Tessaron", .width = 6600, .height = 3720, .escapeCloses = true},
            designTable()) {
   // Stands in line with the normal menu, below it.
   Left = 5910;

@@ -28,6 +28,12 @@ void Application::registerForm(std::string name, Factory factory) {
 
 bool Application::knows(std::string_view name) const { return factories_.contains(name); }
 
+std::vector<std::string> Application::formNames() const {
+  std::vector<std::string> names;
+  for (const auto& [name, factory] : factories_) names.push_back(name);
+  return names;
+}
+
 Form* Application::loaded(std::string_view name) const {
   for (const auto& f : forms_)
     if (f->name() == name) return f.get();
@@ -202,6 +208,7 @@ void Application::keydown(Form& form, int keyCode, int shift) {
   run([&] {
     EventArgs args{.KeyCode = keyCode, .Shift = shift};
     form.fire(nullptr, Event::KeyDown, args);
+    escape(form, args.KeyCode);
   });
 }
 
@@ -210,7 +217,12 @@ void Application::keydown(Control& control, int keyCode, int shift) {
     EventArgs args{.KeyCode = keyCode, .Shift = shift};
     if (control.form().design().keyPreview) control.form().fire(nullptr, Event::KeyDown, args);
     if (args.KeyCode != 0) control.form().fire(&control, Event::KeyDown, args);
+    escape(control.form(), args.KeyCode);
   });
+}
+
+void Application::escape(Form& form, int keyCode) {
+  if (keyCode == 27 && form.design().escapeCloses && !form.unloading()) form.Unload();
 }
 
 void Application::focus(Control& control) {

@@ -24,6 +24,8 @@ class Application {
 
   void registerForm(std::string name, Factory factory);
   bool knows(std::string_view name) const;
+  // The names of every registered form, in name order.
+  std::vector<std::string> formNames() const;
   // The form's singleton, created and loaded at its first use.
   Form& form(std::string_view name);
   template <class F>
@@ -72,6 +74,8 @@ class Application {
   void unload(Form& form);
   void settle();
   void keyToControl(Control& control, EventArgs& args);
+  // Esc on a form that closes on it, once its own routines had the key.
+  void escape(Form& form, int keyCode);
 
   Host& host_;
   Observer* observer_ = nullptr;

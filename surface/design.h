@@ -73,6 +73,7 @@ struct FormDesign {
   double fontSize = 8;
   bool keyPreview = false;  // the form's KeyPress and KeyDown see keys first
   bool fixedSize = true;
+  bool escapeCloses = false;  // Esc closes it, as a notice box that only informs
 };
 
 }  // namespace tessaron

@@ -15,6 +15,7 @@
 #include "surface/application.h"
 #include "surface/form.h"
 #include "view/art.h"
+#include "view/fit.h"
 #include "view/form_item.h"
 #include "view/metrics.h"
 #include "view/qt_view.h"
@@ -152,6 +153,7 @@ void FormWindow::syncItem(Item& item) {
   QWidget* w = item.widget;
   const bool fresh = item.fresh;
   item.fresh = false;
+  bool refit = fresh;  // the caption is laid into its box again
 
   if (c.kind() == ControlKind::Line) {
     if (fresh || c.X1 != item.x1 || c.Y1 != item.y1 || c.X2 != item.x2 || c.Y2 != item.y2 ||
@@ -172,6 +174,7 @@ void FormWindow::syncItem(Item& item) {
     if (fresh || g != item.geometry) {
       item.geometry = g;
       w->setGeometry(g);
+      refit = true;
       if (auto* b = qobject_cast<QPushButton*>(w); b && hasArt(c.design().picture)) {
         const int side = std::max(8, std::min(g.width(), g.height()) - 8);
         const QSize icon = c.Caption.empty() ? QSize(g.width() - 8, g.height() - 8)
@@ -189,21 +192,32 @@ void FormWindow::syncItem(Item& item) {
     item.enabled = c.Enabled;
     w->setEnabled(c.Enabled);
   }
-  if (fresh || c.ToolTipText != item.tip) {
+  if (fresh || c.ToolTipText != item.tip || c.Caption != item.caption) {
     item.tip = c.ToolTipText;
     w->setToolTip(qs(c.ToolTipText));
+    // A screen reader names each control by what a sighted user reads on it.
+    const std::string& name = !c.ToolTipText.empty() ? c.ToolTipText
+                              : !c.Caption.empty()   ? c.Caption
+                                                     : c.name();
+    w->setAccessibleName(shownText(name).simplified());
   }
   if (fresh || c.FontSize != item.fontSize || c.FontBold != item.bold) {
     item.fontSize = c.FontSize;
     item.bold = c.FontBold;
     w->setFont(formFont(c.FontSize, c.FontBold));
+    refit = true;
   }
   if (fresh || c.BackColor != item.back || c.ForeColor != item.fore) {
     item.back = c.BackColor;
     item.fore = c.ForeColor;
     setColours(w, c.kind(), c.BackColor, c.ForeColor);
   }
-  syncText(item);
+  if (syncText(item) || refit) {
+    const ControlKind k = c.kind();
+    if (k == ControlKind::Label || k == ControlKind::CommandButton || k == ControlKind::Frame ||
+        k == ControlKind::OptionButton || k == ControlKind::CheckBox)
+      fitCaption(*w, shownText(c.Caption), formFont(c.FontSize, c.FontBold));
+  }
   switch (c.kind()) {
     case ControlKind::OptionButton:
     case ControlKind::CheckBox: {
@@ -250,7 +264,7 @@ void FormWindow::syncItem(Item& item) {
   }
 }
 
-void FormWindow::syncText(Item& item) {
+bool FormWindow::syncText(Item& item) {
   Control& c = *item.control;
   QWidget* w = item.widget;
   switch (c.kind()) {
@@ -259,19 +273,9 @@ void FormWindow::syncText(Item& item) {
     case ControlKind::Frame:
     case ControlKind::OptionButton:
     case ControlKind::CheckBox: {
-      if (!item.fresh && c.Caption == item.caption) {
-        // Cheap check that nothing else wrote to the widget.
-        break;
-      }
+      if (c.Caption == item.caption) return false;
       item.caption = c.Caption;
-      const QString t = shownText(c.Caption);
-      if (auto* l = qobject_cast<QLabel*>(w))
-        l->setText(t);
-      else if (auto* g = qobject_cast<QGroupBox*>(w))
-        g->setTitle(t);
-      else if (auto* b = qobject_cast<QAbstractButton*>(w))
-        b->setText(t);
-      break;
+      return true;
     }
     case ControlKind::TextBox: {
       const QString t = shownText(c.Text);
@@ -294,6 +298,7 @@ void FormWindow::syncText(Item& item) {
     default:
       break;
   }
+  return false;
 }
 
 // Grows the table to the grid's row count; fixed cells wear the button face.
@@ -355,8 +360,15 @@ void FormWindow::syncGrid(Item& item) {
       if (r == 0 && g.FixedRows() == 1)
         table->horizontalHeader()->setFixedHeight(std::max(1, px(g.RowHeight(0))));
     }
-  if (table->currentRow() != g.Row() || table->currentColumn() != g.Col())
+  if (table->currentRow() != g.Row() || table->currentColumn() != g.Col()) {
+    // The logic walks Row and Col to fill cells; that is no reason to scroll,
+    // so the grid keeps showing the rows the user had on view.
+    const int across = table->horizontalScrollBar()->value();
+    const int down = table->verticalScrollBar()->value();
     table->setCurrentCell(g.Row(), g.Col(), QItemSelectionModel::NoUpdate);
+    table->horizontalScrollBar()->setValue(across);
+    table->verticalScrollBar()->setValue(down);
+  }
 }
 
 void FormWindow::syncTimer(Item& item) {

@@ -271,6 +271,8 @@ void FormWindow::key(Item* item, QKeyEvent* event) {
     }
     return;
   }
+  // F1 opens the help page from any form; the form still hears the key.
+  if (event->key() == Qt::Key_F1) view_.showHelp("CalcHelp");
   const int code = keyCode(*event);
   const int ascii = keyAscii(*event);
   const int shift = shiftState(event->modifiers());

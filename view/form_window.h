@@ -60,7 +60,8 @@ class FormWindow : public QWidget {
   QWidget* create(Item& item);
   void syncForm();
   void syncItem(Item& item);
-  void syncText(Item& item);
+  // Brings a text box's text in step; true when a caption changed.
+  bool syncText(Item& item);
   void syncGrid(Item& item);
   static void addGridRows(QTableWidget& table, const Grid& g);
   void syncTimer(Item& item);

@@ -254,6 +254,10 @@ class GuiPlayer : public Player {
         shown = b->text();
       else
         return std::nullopt;
+      // A caption laid over more lines, or with its outer blanks dropped to
+      // fit its box, still reads as the same words.
+      if (shown.simplified() == view::shownText(control.Caption).simplified())
+        return Value(control.Caption);
       return asModel(shown, control.Caption);
     }
     if (property == "Text") {

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QKeyEvent>
 #include <QTextBrowser>
 #include <QTimer>
 
@@ -10,6 +11,19 @@
 #include "view/metrics.h"
 
 namespace tessaron::view {
+
+namespace {
+// The help page reads like any notice: Esc puts it away.
+class HelpWindow : public QTextBrowser {
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Escape)
+      close();
+    else
+      QTextBrowser::keyPressEvent(event);
+  }
+};
+}  // namespace
 
 QFont formFont(double pointSize, bool bold) {
   // A narrow sans face keeps captions within the widths the forms were laid
@@ -101,7 +115,7 @@ void QtView::runWaitingTicks() {
 
 void QtView::showHelp(const std::string& page) {
   if (!help_) {
-    help_ = new QTextBrowser;
+    help_ = new HelpWindow;
     help_->setAttribute(Qt::WA_DeleteOnClose);
     help_->setOpenExternalLinks(false);
     help_->setWindowTitle(QStringLiteral("Tessaron Help"));

@@ -263,6 +263,48 @@ TEST_F(ViewTest, DoubleClickOnTheHelpIconOpensTheHelpPage) {
   }
 }
 
+TEST_F(ViewTest, FillingTheGridCellByCellKeepsItsFirstRowsOnView) {
+  TestForm& f = shown();
+  auto* table = qobject_cast<QTableWidget*>(widget("grdTable"));
+  app.run([&] {
+    Grid& g = f.control("grdTable").grid();
+    g.setRows(60);
+    for (int r = 1; r < 60; ++r) {
+      g.setRow(r);
+      g.setCol(1);
+      g.setText("row " + std::to_string(r));
+    }
+  });
+  settle();
+  EXPECT_EQ(table->currentRow(), 59);
+  EXPECT_EQ(table->verticalScrollBar()->value(), 0);
+  EXPECT_GT(table->verticalScrollBar()->maximum(), 0) << "the rows must overflow the box";
+}
+
+TEST_F(ViewTest, F1OpensTheHelpPageAndEscClosesIt) {
+  shown();
+  QWidget* w = view.window(app.form("frmTest"));
+  QKeyEvent f1(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+  QCoreApplication::sendEvent(w, &f1);
+  QTextBrowser* help = view.helpWindow();
+  ASSERT_NE(help, nullptr);
+  EXPECT_TRUE(help->isVisible());
+  QKeyEvent esc(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+  QCoreApplication::sendEvent(help, &esc);
+  settle();
+  EXPECT_TRUE(view.helpWindow() == nullptr || !view.helpWindow()->isVisible());
+}
+
+TEST_F(ViewTest, EveryControlHasAnAccessibleName) {
+  TestForm& f = shown();
+  EXPECT_EQ(widget("cmdOK")->accessibleName(), QStringLiteral("Press it"));
+  for (const auto& c : f.controls()) {
+    QWidget* cw = view.window(f)->widget(*c);
+    if (!cw) continue;
+    EXPECT_FALSE(cw->accessibleName().isEmpty()) << c->name();
+  }
+}
+
 TEST_F(ViewTest, PlayerDeliversRealInput) {
   int argc = 1;
   char name[] = "view_tests";
