@@ -76,6 +76,9 @@ void frmGye::GotFocus(int i) {
 }
 
 void frmGye::Refuse(Control& box, const char* words) {
+  // The emptied box holds no value, so a Calculate that follows can't use
+  // the one it held before.
+  Cond[box.index()] = Value(0);
   box.BackColor = kWhite;
   MsgBox(words, 48, "  Tessaron  ");
   box.Text = "";
@@ -88,7 +91,10 @@ void frmGye::LostFocus(int i) {
   box.BackColor = Rgb(255, 255, 204);
   if (PubCheckSpace(box.Text)) box.Text = "";
   if (box.Text == "") {
+    // A box emptied while it kept the focus may stand beside a list made
+    // from its old value: the list goes with the value.
     Cond[i] = Value(0);
+    PubClear();
     return;
   }
   if (!IsNumeric(Value(box.Text))) {
