@@ -9,6 +9,14 @@ namespace {
 
 constexpr long kWhite = 0xFFFFFF;
 constexpr const char* kNumberOnly = " Please Enter Number Only ! ";
+// The foot of the page belongs to the name and the mark; a list that would
+// reach it goes on over the next page.
+constexpr double kListFoot = 12600;
+
+void KeepAboveFoot(PrinterDevice& printer, int lines) {
+  if (printer.CurrentY + lines * Canvas::lineHeight(printer.FontSize) > kListFoot)
+    printer.NewPage();
+}
 
 }  // namespace
 
@@ -205,10 +213,12 @@ void frmGye::PubPrint() {
   printer.Print({});
   const int members = CInt(n).AsInt16();
   for (int i = 1; i <= members; ++i) {
+    KeepAboveFoot(printer, 2);
     printer.Print({Tab{i >= 10 ? 41 : 42}, Value(Format(Value(i), MaskWhole.str())), Tab{52},
                    Value(Format(Ans[i], MaskPay.str()))});
     printer.Print({});
   }
+  KeepAboveFoot(printer, 2);
   printer.Print({});
   printer.Print({Tab{36}, Value("Total  :  "), Tab{50}, Value(Format(Ans[0], MaskPay.str()))});
   // The name and the mark stand at the foot of this page.
