@@ -206,6 +206,7 @@ std::vector<Design> GyeDesign() {
                  .width = 495,
                  .height = 315,
                  .visible = false,
+                 .alignment = Align::Right,
                  .locked = true,
                  .tabStop = false});
     d.push_back({.kind = K::Label,
@@ -213,7 +214,7 @@ std::vector<Design> GyeDesign() {
                  .index = i,
                  .left = RowLeft(i) + 540,
                  .top = RowTop(i) + 30,
-                 .width = 1575,
+                 .width = 1395,
                  .height = 285,
                  .alignment = Align::Right});
   }
