@@ -145,9 +145,11 @@ void FinanceForm::PubRate() {
   ScrollRate = AnnualRate * Value(20000);
   MonthlyRate = AnnualRate / Value(12);
   MonthlyFactor = Value(1) + MonthlyRate;
-  // The box holds up to 150 %, the bar only up to 29.995 %.
+  // The box holds up to 150 %, the bar only up to 29.995 %. A bar that
+  // starts higher than 10 (the present value's, at 98) stops at its own end.
   Value position = ScrollRate;
   if (position < Value(10)) position = Value(10);
+  if (position < Value(bar.Min())) position = Value(bar.Min());
   if (position > Value(5999)) position = Value(5999);
   bar.setValue(position);
   InRateUpdate = 0;
@@ -193,7 +195,16 @@ void FinanceForm::PubMonths() {
   RestMonths = Months - Value(12) * Years;
   control("lblMonth").Caption = CStr(RestMonths);
   InMonthScroll = true;
-  control("scrYear").setValue(Years);
+  Control& year = control("scrYear");
+  if (Years < Value(year.Min())) {
+    // A term shorter than the year bar's first step (the present value's bar
+    // starts at 1): the bar rests at its end and the term keeps its months.
+    year.setValue(Value(year.Min()));
+    Years = Int(Months / Value(12));
+    RestMonths = Months - Value(12) * Years;
+  } else {
+    year.setValue(Years);
+  }
   InMonthScroll = false;
   control(table_.yearsLabel).Caption = CStr(Years);
 }

@@ -1,7 +1,10 @@
 #include "suite/suite.h"
 
 #include "calc/ovicalc.h"
+#include "finance/bond.h"
+#include "finance/gye.h"
 #include "finance/loan.h"
+#include "finance/present.h"
 #include "shell/about_form.h"
 #include "shell/main_form.h"
 #include "surface/application.h"
@@ -11,6 +14,9 @@ namespace tessaron {
 void registerSuite(Application& app) {
   app.registerForm("frmMain", [](Application& a) { return std::make_unique<frmMain>(a); });
   app.registerForm("frmLoan", [](Application& a) { return std::make_unique<frmLoan>(a); });
+  app.registerForm("frmPresent", [](Application& a) { return std::make_unique<frmPresent>(a); });
+  app.registerForm("frmBond", [](Application& a) { return std::make_unique<frmBond>(a); });
+  app.registerForm("frmGye", [](Application& a) { return std::make_unique<frmGye>(a); });
   app.registerForm("frmAbout", [](Application& a) { return std::make_unique<frmAbout>(a); });
   app.registerForm("OviCalc", [](Application& a) { return std::make_unique<OviCalc>(a); });
 }
