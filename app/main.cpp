@@ -8,10 +8,12 @@
 #include "surface/application.h"
 #include "view/qt_host.h"
 #include "view/qt_view.h"
+#include "view/startup_probe.h"
 #include "view/style.h"
 
 int main(int argc, char** argv) {
   QApplication qt(argc, argv);
+  tessaron::view::armStartupProbe(qt);
   tessaron::view::setupLook(qt);
 
   tessaron::view::QtHost host;
