@@ -66,6 +66,15 @@ Design label(const char* name, int index, std::string caption, int left, int top
 
 std::vector<Design> OviSum::designTable() {
   std::vector<Design> t;
+  // The third column's results, beneath the third data column's cells,
+  // which cover them when both are shown.
+  for (int r = 1; r <= 12; ++r) {
+    Design d = label("lblAns", r, "", ColumnLeft(2), RowTop(r), kCellW, Align::Right, 12);
+    d.height = kCellH;
+    d.visible = false;
+    t.push_back(d);
+  }
+
   // The sentinel before the first cell turns a back-tab to Calc.
   t.push_back({.kind = K::TextBox, .name = "txtAAA", .index = 0, .width = 15, .height = 15});
   for (int i = 1; i <= 36; ++i) {
@@ -102,30 +111,20 @@ std::vector<Design> OviSum::designTable() {
     t.push_back(d);
   }
 
-  // The third column's results.
-  for (int r = 1; r <= 12; ++r) {
-    Design d = label("lblAns", r, "", ColumnLeft(2), RowTop(r), kCellW, Align::Right, 12);
-    d.height = kCellH;
-    d.visible = false;
-    t.push_back(d);
-  }
-
-  // Rulings above the totals.
-  for (int k = 1; k <= 3; ++k)
+  // Rulings above the column sums, and above and below the grand figure.
+  auto ruling = [&](int index, int column, int y) {
     t.push_back({.kind = K::Line,
                  .name = "lineSai",
-                 .index = k,
-                 .x1 = static_cast<double>(ColumnLeft(k - 1)),
-                 .y1 = TotalTop() - 45.0,
-                 .x2 = static_cast<double>(ColumnLeft(k - 1) + kCellW),
-                 .y2 = TotalTop() - 45.0});
-  t.push_back({.kind = K::Line,
-               .name = "lineSai",
-               .index = 4,
-               .x1 = static_cast<double>(ColumnLeft(1)),
-               .y1 = GrandTop() - 45.0,
-               .x2 = static_cast<double>(ColumnLeft(1) + kCellW),
-               .y2 = GrandTop() - 45.0});
+                 .index = index,
+                 .x1 = static_cast<double>(ColumnLeft(column)),
+                 .y1 = static_cast<double>(y),
+                 .x2 = static_cast<double>(ColumnLeft(column) + kCellW),
+                 .y2 = static_cast<double>(y)});
+  };
+  ruling(1, 0, TotalTop() - 45);
+  ruling(2, 1, TotalTop() - 45);
+  ruling(3, 1, GrandTop() - 45);
+  ruling(4, 1, GrandTop() + kCellH + 30);
 
   // The totals: 0 total or balance, 1 AAA, 2 BBB, 3 third data column, 4
   // third-column results.
@@ -147,7 +146,7 @@ std::vector<Design> OviSum::designTable() {
                .caption = " Decimal Point  ",
                .left = 120,
                .top = kOptionTop,
-               .width = 3960,
+               .width = 3700,
                .height = 600});
   t.push_back(option("optAuto", -1, "Auto", " Automatically show 0, 2 or max. digits of decimals ",
                      150, 240, 900, "Frame2", true));
@@ -158,18 +157,18 @@ std::vector<Design> OviSum::designTable() {
       option("optZero", -1, "0", " Delete decimals w/roundings ", 2930, 240, 800, "Frame2"));
   // Total or balance.
   t.push_back(
-      option("optTtl", -1, "Total", " Sum of all data ", 4260, kOptionTop + 240, 900, "", true));
-  t.push_back(option("optBal", -1, "Balance", " Difference of DDD & CCC ", 5220, kOptionTop + 240,
+      option("optTtl", -1, "Total", " Sum of all data ", 3960, kOptionTop + 240, 900, "", true));
+  t.push_back(option("optBal", -1, "Balance", " Difference of DDD & CCC ", 4860, kOptionTop + 240,
                      1100, ""));
 
   // The relations of AAA and BBB; PubSizeAA and PubSizeBB place them.
   t.push_back({.kind = K::Frame,
                .name = "frmExtra",
                .caption = "Relations of ",
-               .left = kPanelLeft,
+               .left = kPanelLeft - 60,
                .top = kHeadTop,
-               .width = kPanelW,
-               .height = 300});
+               .width = kPanelW + 120,
+               .height = 7 * kStackPitch + 840});
   t.push_back({.kind = K::Frame,
                .name = "Frame3",
                .caption = " AAA ? BBB ",

@@ -8,7 +8,7 @@ inline constexpr int kNumberLeft = 60, kNumberW = 360;
 inline constexpr int kColumnPitch = 3450;
 inline constexpr int kOptionTop = 6240, kButtonTop = 6960, kButtonW = 1200, kButtonPitch = 1300;
 inline constexpr int kPanelLeft = 7080, kPanelW = 2100, kStackPitch = 330;
-inline constexpr int kRowFrameLeft = 6420, kRowFrameW = 4860;
+inline constexpr int kRowFrameLeft = 6000, kRowFrameW = 5280;
 inline constexpr int kFormHeight = 7950;
 
 inline constexpr int ColumnLeft(int column) { return kFirstRow + column * kColumnPitch; }
@@ -25,7 +25,7 @@ inline constexpr Place SignStacked(int i) { return {150, 270 + i * kStackPitch, 
 
 // optSign(i) in a row along the foot of the wide chart.
 inline constexpr Place SignInRow(int i) {
-  constexpr int widths[7] = {560, 480, 480, 640, 760, 760, 1060};
+  constexpr int widths[7] = {600, 540, 540, 680, 800, 800, 1100};
   int left = 90;
   for (int k = 0; k < i; ++k) left += widths[k];
   return {left, 240, widths[i]};
