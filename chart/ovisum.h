@@ -64,6 +64,8 @@ class OviSum : public Form {
   void optDecimal_Click(DecimalChoice choice);
   void optSign_Click(int Index);
   void PubThirdSum(const char* mask);
+  void PrintFigures(int LastRow, bool HasB);
+  void Finish();
 
   // Refusal of an entry: the box goes white for the message.
   void Refuse(int Index, const std::string& words);

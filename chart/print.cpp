@@ -20,7 +20,6 @@ void OviSum::cmdPrint_Click() {
 void OviSum::PubPrint() {
   ChartState& c = chart;
   PrinterDevice& printer = Printer();
-  const int mode = c.SignMode;
   printer.FontSize = chosen("optSign", 0) ? 12 : 10;
   printer.ForeColor = 0;
   for (int k = 0; k < 9; ++k) printer.Print({});
@@ -36,6 +35,16 @@ void OviSum::PubPrint() {
     if (c.CellVal(R) != Value(0) || c.CellVal(R + 12) != Value(0) || c.CellVal(R + 24) != Value(0))
       LastRow = R;
 
+  // An empty chart prints no figures at all, only the finish.
+  if (LastRow > 0) PrintFigures(LastRow, HasB);
+  Finish();
+}
+
+void OviSum::PrintFigures(int LastRow, bool HasB) {
+  ChartState& c = chart;
+  PrinterDevice& printer = Printer();
+  const int mode = c.SignMode;
+  const int rowCount = CInt(c.RowCount).AsInt16();
   // A figure with its leading spaces.
   auto figure = [&](int I, const std::string& mask) {
     return Value(Space(c.CellPad(I)) + Format(c.CellShown(I), mask));
@@ -74,7 +83,6 @@ void OviSum::PubPrint() {
     printer.Print({});
   }
 
-  printer.Print({});
   if (HasB) {
     printer.Print({Value("    T"), Tab{6}, total(55, c.SumAAA, c.CellMask), Tab{42},
                    total(56, c.SumBBB, c.CellMask)},
@@ -106,7 +114,10 @@ void OviSum::PubPrint() {
     for (int k = 0; k < 20; ++k) printer.Print({});
     printer.Print({Value(Space(99) + kMarks[mode])});
   }
+}
 
+void OviSum::Finish() {
+  PrinterDevice& printer = Printer();
   printer.Print({});
   printer.CurrentX = 9000;
   printer.CurrentY = 13000;
