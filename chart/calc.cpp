@@ -13,15 +13,14 @@ constexpr const char* kRelationShown = "###,##0.###";
 const char* const kHeads[7] = {"",          "AAA + BBB", "AAA - BBB", "AAA x BBB",
                                "AAA / BBB", "BBB / AAA", " 25 ~~ 36"};
 
-// Characters behind the last "." of a text; 0 when there is none.
-int DecimalsOf(const std::string& text) {
+bool Huge(const Value& v) { return Abs(v) >= Value(1e17); }
+}  // namespace
+
+int OviSum::DecimalsOf(const std::string& text) {
   const std::size_t point = text.rfind('.');
   if (point == std::string::npos) return 0;
   return Len(Value(text)) - static_cast<int>(point) - 1;
 }
-
-bool Huge(const Value& v) { return Abs(v) >= Value(1e17); }
-}  // namespace
 
 int OviSum::PadFor(int base, const Value& magnitude) const {
   const int twiceDec = 2 * CInt(chart.MaxDec).AsInt16();

@@ -250,11 +250,7 @@ void OviSum::txtAAA_LostFocus(int Index) {
     return;
   }
   c.Work = CDec(Value(box.Text));
-  c.CellDec(Index) = Value(0);
-  const std::string digits = CStr(c.Work);
-  const std::size_t point = digits.rfind('.');
-  if (point != std::string::npos)
-    c.CellDec(Index) = Value(Len(Value(digits)) - static_cast<int>(point) - 1);
+  c.CellDec(Index) = Value(DecimalsOf(CStr(c.Work)));
   if (c.CellDec(Index) > Value(6)) {
     Refuse(Index, kTooSmall);
     box.Text = "";

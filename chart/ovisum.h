@@ -34,6 +34,7 @@ class OviSum : public Form {
   // Printout.
   void PubPrint();
 
+  // The chart's variables: the form's kept record, alive for the whole run.
   ChartState& chart;
 
   static constexpr const char* kTitle = " Ovi Sum";
@@ -43,7 +44,10 @@ class OviSum : public Form {
   void wire();
   Control& cell(int index) const;
   bool chosen(const char* option, int index = -1) const;
-  // The width in half-digit units taken by a figure, for its pad.
+  // Characters behind the last "." of a text; 0 when there is none.
+  static int DecimalsOf(const std::string& text);
+  // The leading blanks that end a figure of this magnitude at `base`
+  // half-digits, the chart's decimals included; a blank is half a digit.
   int PadFor(int base, const Value& magnitude) const;
   // The option buttons and layout as the kept record has them.
   void RestoreOptions();
@@ -69,6 +73,7 @@ class OviSum : public Form {
 
   // Refusal of an entry: the box goes white for the message.
   void Refuse(int Index, const std::string& words);
+  // Set while Load puts the kept options back, so that their Clicks stay quiet.
   bool Restoring = false;
 };
 
