@@ -138,6 +138,31 @@ TEST_F(ChartEntry, TheThirdColumnKeepsItsAmountsInTwoColumnMode) {
   EXPECT_EQ(text(1), "1.00");
 }
 
+TEST_F(ChartEntry, ReopeningRepaintsTheChartFromItsKeptAmounts) {
+  click("optSign", 6);
+  enter(1, "2");
+  enter(30, "3.5");
+  reopen();
+  EXPECT_EQ(chart().LastCell, Value(36));
+  EXPECT_TRUE(cell(30).Visible);
+  EXPECT_EQ(text(30), "3.50");
+  EXPECT_EQ(amt(0), "5.50");
+  EXPECT_TRUE(c("cmdPrint").Enabled);
+}
+
+// Load looks for a kept chart in AAA and BBB only: amounts left in the third
+// data column alone show again with the next entry.
+TEST_F(ChartEntry, AThirdColumnAloneShowsAgainWithTheNextEntry) {
+  click("optSign", 6);
+  enter(30, "3.5");
+  reopen();
+  EXPECT_EQ(text(30), "");
+  EXPECT_EQ(chart().CellVal(30), CDec(Value("3.5")));
+  enter(1, "2");
+  EXPECT_EQ(text(30), "3.50");
+  EXPECT_EQ(amt(0), "5.50");
+}
+
 TEST_F(ChartEntry, AProductAtNineteenDigitsPasses) {
   click("optSign", 3);
   enter(1, "99999999999");
