@@ -1,6 +1,7 @@
 #include "suite/suite.h"
 
 #include "calc/ovicalc.h"
+#include "chart/ovisum.h"
 #include "finance/bond.h"
 #include "finance/gye.h"
 #include "finance/loan.h"
@@ -19,6 +20,7 @@ void registerSuite(Application& app) {
   app.registerForm("frmGye", [](Application& a) { return std::make_unique<frmGye>(a); });
   app.registerForm("frmAbout", [](Application& a) { return std::make_unique<frmAbout>(a); });
   app.registerForm("OviCalc", [](Application& a) { return std::make_unique<OviCalc>(a); });
+  app.registerForm("OviSum", [](Application& a) { return std::make_unique<OviSum>(a); });
 }
 
 }  // namespace tessaron
