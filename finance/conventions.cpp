@@ -158,8 +158,16 @@ void FinanceForm::PubClear() {
   Payment = Value(0);
   control("txtAmount").Text = "";
   control(table_.secondBox).Text = "";
-  control("lblAAA").Caption = "Base";
-  control("lblPPP").Caption = "Base";
+  control("lblAAA").Caption = table_.clearBaseCaption;
+  control("lblPPP").Caption = table_.clearBaseCaption;
+  if (table_.clearDropsRestMonths) RestMonths = Value(0);
+}
+
+void FinanceForm::RateFocusClears() {
+  for (const std::string& label : table_.rateFocusEmpties) control(label).Caption = "";
+  if (!table_.rateFocusEmptiesResult) return;
+  if (control("lblPPP").Caption == "") control(table_.secondBox).Text = "";
+  if (control("lblAAA").Caption == "") control("txtAmount").Text = "";
 }
 
 void FinanceForm::PubYears() {

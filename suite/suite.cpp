@@ -1,6 +1,8 @@
 #include "suite/suite.h"
 
 #include "calc/ovicalc.h"
+#include "finance/annuity.h"
+#include "finance/auto.h"
 #include "finance/loan.h"
 #include "shell/about_form.h"
 #include "shell/main_form.h"
@@ -11,6 +13,8 @@ namespace tessaron {
 void registerSuite(Application& app) {
   app.registerForm("frmMain", [](Application& a) { return std::make_unique<frmMain>(a); });
   app.registerForm("frmLoan", [](Application& a) { return std::make_unique<frmLoan>(a); });
+  app.registerForm("frmAuto", [](Application& a) { return std::make_unique<frmAuto>(a); });
+  app.registerForm("frmAnnuity", [](Application& a) { return std::make_unique<frmAnnuity>(a); });
   app.registerForm("frmAbout", [](Application& a) { return std::make_unique<frmAbout>(a); });
   app.registerForm("OviCalc", [](Application& a) { return std::make_unique<OviCalc>(a); });
 }
