@@ -183,8 +183,10 @@ void FinanceForm::PubYears() {
   if (Years == Value(table_.yearMax) && RestMonths > Value(0)) {
     // The bar's last year with rest months would run past the longest term:
     // the term keeps its months and counts one year less, while the bar
-    // stays at its end.
+    // stays at its end. Reached by a jump of the bar, the term is that year
+    // and the rest months, as the captions show it.
     Years = Value(table_.yearMax - 1);
+    Months = Years * Value(12) + RestMonths;
   } else if (!InMonthScroll) {
     Months = Years * Value(12);
   }
