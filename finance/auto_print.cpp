@@ -43,11 +43,9 @@ void frmAuto::cmdPrintClick() {
     printer.Print(
         {Tab{15}, Value("Sales Tax Rate : "), Value(Format(TaxRate, " ##0.### ")), Value("%")});
   printer.Print({});
+  printer.Print({Tab{40}, Value("Monthly Payment :    "), money(Payment)});
   if (TaxRate > zero)
-    printer.Print({Tab{40}, Value("Monthly Payment :    "), money(Payment),
-                   Value("   (with Sales Tax " + Format(TaxRate, "##0.### ") + "%)")});
-  else
-    printer.Print({Tab{40}, Value("Monthly Payment :    "), money(Payment)});
+    printer.Print({Tab{40}, Value("(with Sales Tax " + Format(TaxRate, "##0.### ") + "%)")});
   if (ExtraCost > zero)
     printer.Print({Tab{40}, Value("Extra Cost  at End :    "), money(ExtraCost)});
   printer.Print({Tab{40}, Value("Total Payment :    "), money(TotalPaid)});
