@@ -160,8 +160,16 @@ void FinanceForm::PubClear() {
   Payment = Value(0);
   control("txtAmount").Text = "";
   control(table_.secondBox).Text = "";
-  control("lblAAA").Caption = "Base";
-  control("lblPPP").Caption = "Base";
+  control("lblAAA").Caption = table_.clearBaseCaption;
+  control("lblPPP").Caption = table_.clearBaseCaption;
+  if (table_.clearDropsRestMonths) RestMonths = Value(0);
+}
+
+void FinanceForm::RateFocusClears() {
+  for (const std::string& label : table_.rateFocusEmpties) control(label).Caption = "";
+  if (!table_.rateFocusEmptiesResult) return;
+  if (control("lblPPP").Caption == "") control(table_.secondBox).Text = "";
+  if (control("lblAAA").Caption == "") control("txtAmount").Text = "";
 }
 
 void FinanceForm::PubYears() {
@@ -177,8 +185,10 @@ void FinanceForm::PubYears() {
   if (Years == Value(table_.yearMax) && RestMonths > Value(0)) {
     // The bar's last year with rest months would run past the longest term:
     // the term keeps its months and counts one year less, while the bar
-    // stays at its end.
+    // stays at its end. Reached by a jump of the bar, the term is that year
+    // and the rest months, as the captions show it.
     Years = Value(table_.yearMax - 1);
+    Months = Years * Value(12) + RestMonths;
   } else if (!InMonthScroll) {
     Months = Years * Value(12);
   }

@@ -47,6 +47,16 @@ struct FinanceTable {
   bool enterCalculatesSecond = false;
   // The label that shows Years.
   std::string yearsLabel = "lblYears";
+
+  // What entering txtRate empties beyond the box: these labels, and with
+  // rateFocusEmptiesResult the result box of the base side too, so that no
+  // figure of the old rate stays on view while a new one is typed.
+  std::vector<std::string> rateFocusEmpties;
+  bool rateFocusEmptiesResult = false;
+  // The caption PubClear gives both side labels, and whether it also drops
+  // the rest months of the term.
+  std::string clearBaseCaption = "Base";
+  bool clearDropsRestMonths = false;
 };
 
 class FinanceForm : public Form {
@@ -69,7 +79,7 @@ class FinanceForm : public Form {
 
  protected:
   // What txtRate's GotFocus clears beyond the box itself.
-  virtual void RateFocusClears() {}
+  virtual void RateFocusClears();
   virtual void CalculateClick() { PubCalc(); }
   // Opens the form below the menu.
   void PlaceBelowMenu();

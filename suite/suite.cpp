@@ -2,6 +2,8 @@
 
 #include "calc/ovicalc.h"
 #include "chart/ovisum.h"
+#include "finance/annuity.h"
+#include "finance/auto.h"
 #include "finance/bond.h"
 #include "finance/gye.h"
 #include "finance/loan.h"
@@ -18,6 +20,8 @@ void registerSuite(Application& app) {
   app.registerForm("frmPresent", [](Application& a) { return std::make_unique<frmPresent>(a); });
   app.registerForm("frmBond", [](Application& a) { return std::make_unique<frmBond>(a); });
   app.registerForm("frmGye", [](Application& a) { return std::make_unique<frmGye>(a); });
+  app.registerForm("frmAuto", [](Application& a) { return std::make_unique<frmAuto>(a); });
+  app.registerForm("frmAnnuity", [](Application& a) { return std::make_unique<frmAnnuity>(a); });
   app.registerForm("frmAbout", [](Application& a) { return std::make_unique<frmAbout>(a); });
   app.registerForm("OviCalc", [](Application& a) { return std::make_unique<OviCalc>(a); });
   app.registerForm("OviSum", [](Application& a) { return std::make_unique<OviSum>(a); });
