@@ -5,6 +5,7 @@
 #include "shell/about_form.h"
 #include "shell/main_form.h"
 #include "surface/application.h"
+#include "units/conver.h"
 
 namespace tessaron {
 
@@ -13,6 +14,7 @@ void registerSuite(Application& app) {
   app.registerForm("frmLoan", [](Application& a) { return std::make_unique<frmLoan>(a); });
   app.registerForm("frmAbout", [](Application& a) { return std::make_unique<frmAbout>(a); });
   app.registerForm("OviCalc", [](Application& a) { return std::make_unique<OviCalc>(a); });
+  app.registerForm("frmConver", [](Application& a) { return std::make_unique<frmConver>(a); });
 }
 
 }  // namespace tessaron
