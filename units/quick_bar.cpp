@@ -13,7 +13,10 @@ constexpr double kMeterPerYard = 0.9144;
 struct BarStart {
   int max, value;
 };
-// By the index of optChoice: yard, pound, ft-inch, temp.
+// By the index of optChoice: yard, pound, ft-inch, temp. Each bar ends on
+// its conversion's last stop (the mile, the long ton, ten feet, boiling
+// water) and starts on an everyday figure (150 yards, 150 pounds, 5 ft 5 in,
+// 68 degF).
 constexpr BarStart kBarStarts[] = {{304, 150}, {642, 386}, {240, 130}, {256, 77}};
 }  // namespace
 
