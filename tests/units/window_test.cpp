@@ -6,11 +6,13 @@
 #include <QApplication>
 #include <QFontMetrics>
 #include <QHeaderView>
+#include <QLabel>
 #include <QTableWidget>
 
 #include "suite/suite.h"
 #include "surface/application.h"
 #include "tests/support/recording_host.h"
+#include "units/conver.h"
 #include "units/unit_table.h"
 #include "view/form_window.h"
 #include "view/qt_view.h"
@@ -30,6 +32,18 @@ class ConverWindow : public ::testing::Test {
   QTableWidget& table() {
     Form& f = app.form("frmConver");
     return *qobject_cast<QTableWidget*>(view.window(f)->widget(f.control("Table")));
+  }
+  QLabel& label(const char* name) {
+    Form& f = app.form("frmConver");
+    return *qobject_cast<QLabel*>(view.window(f)->widget(f.control(name)));
+  }
+  // The label's text as the window shows it fits the label.
+  void fits(const char* name) {
+    QCoreApplication::processEvents();
+    QLabel& l = label(name);
+    ASSERT_EQ(l.text().toStdString(), app.form("frmConver").control(name).Caption);
+    EXPECT_LE(QFontMetrics(l.font()).horizontalAdvance(l.text()), l.width())
+        << name << " \"" << l.text().toStdString() << "\"";
   }
 
   RecordingHost host;
@@ -69,6 +83,29 @@ TEST_F(ConverWindow, RowsShowWholeAndTheTableNeedsNoScrolling) {
     if (!t.isRowHidden(row)) height += t.rowHeight(row);
   EXPECT_LE(width, t.viewport()->width());
   EXPECT_LE(height - t.horizontalHeader()->height(), t.viewport()->height());
+}
+
+TEST_F(ConverWindow, EveryUnitNameFitsAboveItsBox) {
+  Form& f = app.form("frmConver");
+  for (const UnitCell& u : UnitCells()) {
+    if (u.k == 0) continue;
+    app.cell(f.control("Table"), u.row, u.col);
+    fits("lblAA");
+    fits("lblBB");
+  }
+}
+
+TEST_F(ConverWindow, EveryFigureOfTheQuickBarFitsItsLabel) {
+  Form& f = app.form("frmConver");
+  Control& bar = f.control("HscrAll");
+  for (int option = 0; option <= 3; ++option) {
+    app.click(f.control("optChoice", option));
+    for (int v = bar.Min(); v <= bar.Max(); ++v) {
+      app.scroll(bar, v);
+      fits("lblFP");
+      fits("lblKM");
+    }
+  }
 }
 
 }  // namespace
