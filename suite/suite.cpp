@@ -11,6 +11,7 @@
 #include "shell/about_form.h"
 #include "shell/main_form.h"
 #include "surface/application.h"
+#include "units/conver.h"
 
 namespace tessaron {
 
@@ -25,6 +26,7 @@ void registerSuite(Application& app) {
   app.registerForm("frmAbout", [](Application& a) { return std::make_unique<frmAbout>(a); });
   app.registerForm("OviCalc", [](Application& a) { return std::make_unique<OviCalc>(a); });
   app.registerForm("OviSum", [](Application& a) { return std::make_unique<OviSum>(a); });
+  app.registerForm("frmConver", [](Application& a) { return std::make_unique<frmConver>(a); });
 }
 
 }  // namespace tessaron
