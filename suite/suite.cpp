@@ -4,6 +4,7 @@
 #include "finance/loan.h"
 #include "shell/about_form.h"
 #include "shell/main_form.h"
+#include "statistics/statistics.h"
 #include "surface/application.h"
 
 namespace tessaron {
@@ -13,6 +14,8 @@ void registerSuite(Application& app) {
   app.registerForm("frmLoan", [](Application& a) { return std::make_unique<frmLoan>(a); });
   app.registerForm("frmAbout", [](Application& a) { return std::make_unique<frmAbout>(a); });
   app.registerForm("OviCalc", [](Application& a) { return std::make_unique<OviCalc>(a); });
+  app.registerForm("frmStatistics",
+                   [](Application& a) { return std::make_unique<frmStatistics>(a); });
 }
 
 }  // namespace tessaron
