@@ -85,7 +85,7 @@ void frmStatistics::txtBBBLostFocus(int index) {
     S.DataText[S.DataPlace] = "";
     PubSum();
     if (!S.OldText.empty()) --S.DataCount;
-    if (S.DataCount > 0) S.DataAvg = S.DataSum / S.DataCount;
+    if (S.DataCount > 0) S.DataAvg = Average();
   } else {
     if (!IsNumeric(Value(box.Text))) return Refuse(box, kNumberOnly, S.OldText);
     const double Work = CDbl(Value(box.Text)).number();
@@ -102,7 +102,7 @@ void frmStatistics::txtBBBLostFocus(int index) {
     }
     PubSum();
     if (S.OldText.empty()) ++S.DataCount;
-    S.DataAvg = S.DataSum / S.DataCount;
+    S.DataAvg = Average();
   }
   ShowRunning();
   PubEndData();
@@ -247,7 +247,7 @@ void frmStatistics::cmdOneClick() {
     S.Aim[1] -= 1;
     last.Text = Format(Value(S.Aim[1]), kMaskCount);
     S.AimText[1] = last.Text;
-    if (S.DataCount > 0) S.DataAvg = S.DataSum / S.DataCount;
+    if (S.DataCount > 0) S.DataAvg = Average();
     if (S.DataCount < 1) {
       // The last datum gone: the sheet starts afresh at its first cell.
       PubClear();

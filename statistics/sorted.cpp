@@ -70,7 +70,7 @@ void frmStatistics::PubSort() {
   control("scrFive").setValue(Value(0));
   control("fmData").Caption = "Sorted";
   for (int i = S.SortCount + 1; i < StatisticsSheet::kPlaces; ++i) {
-    S.SortVal[i] = Value();
+    S.SortVal[i] = Value("");
     S.SortQty[i] = 0;
   }
   for (int i = 1; i <= 20; ++i) {

@@ -77,11 +77,15 @@ void frmStatistics::PubEndData() {
 void frmStatistics::PubCheckSpace(const std::string& text) { SpaceFlag = IsBlankRun(text, 23); }
 
 void frmStatistics::PubSum() {
-  double sum = 0;
+  Value sum = CDec(Value(0));
   const int last = std::min(static_cast<int>(S.Aim[1]), StatisticsSheet::kPlaces - 1);
-  for (int i = 1; i <= last; ++i) sum += S.Data[i];
-  S.DataSum = sum;
+  for (int i = 1; i <= last; ++i)
+    if (S.Data[i] != 0) sum += CDec(Value(S.Data[i]));
+  S.SumExact = sum;
+  S.DataSum = sum.number();
 }
+
+double frmStatistics::Average() const { return (S.SumExact / Value(S.DataCount)).number(); }
 
 void frmStatistics::LastGuard() {
   if (S.Aim[1] < S.EndData) {
@@ -112,6 +116,7 @@ void frmStatistics::PubClear() {
   S.IsSorted = S.IsCalced = S.SkipBack = S.SkipFwd = false;
   S.DataCount = S.GridCell = S.DataPlace = S.SortCount = S.PageBase = S.EndData = 0;
   S.DataSum = S.DataAvg = S.DataDev = S.AvgAll = 0;
+  S.SumExact = Value(0);
   S.OverHigh = S.OverLow = 0;
   S.PctHigh = S.PctLow = S.StatHigh = S.StatLow = S.ZVal = 0;
   Control& bar = control("scrFive");
@@ -130,7 +135,7 @@ void frmStatistics::PubClear() {
   S.Data.fill(0);
   S.DataText.fill("");
   S.SortWork.fill(0);
-  S.SortVal.fill(Value());
+  S.SortVal.fill(Value(""));
   S.SortQty.fill(0);
 }
 

@@ -19,13 +19,16 @@ struct StatisticsSheet {
   std::array<double, kPlaces> Data{};
   std::array<std::string, kPlaces> DataText{};  // "" for a blank: tells a blank from a zero
   std::array<double, kPlaces> SortWork{};
-  std::array<Value, kPlaces> SortVal{};  // Empty below the list, "" for the blanks' row
+  std::array<Value, kPlaces> SortVal{};  // distinct values ascending; "" for the blanks and below
   std::array<int, kPlaces> SortQty{};
   int SortCount = 0;
   std::array<double, 6> Aim{};  // 1 Last, 2 Low limit, 3 High limit
   std::array<std::string, 6> AimText{};
   int DataCount = 0;
   double DataSum = 0, DataAvg = 0;
+  // The sum in decimal: the data are typed decimals of at most six places,
+  // so it is exact, and equal data average to themselves.
+  Value SumExact = Value(0);
   int GridCell = 0, PageBase = 0, DataPlace = 0;
   int EndData = 0;
   bool IsSorted = false, IsCalced = false;
@@ -61,6 +64,8 @@ class frmStatistics : public Form {
   void PubEndData();
   void PubCheckSpace(const std::string& text);
   void PubSum();
+  // DataSum / DataCount, taken on the exact sum.
+  double Average() const;
   void PubCkFive();
   void LastGuard();
   void PubSort();

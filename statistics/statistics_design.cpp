@@ -133,7 +133,9 @@ void AddSheet(std::vector<Design>& t) {
 
 void AddFigures(std::vector<Design>& t) {
   t.push_back(title(0, "Count", kTitleX, 300));
-  t.push_back(figure(0, " Number of actual data ", kLowX, 270));
+  Design count = figure(0, " Number of actual data ", kLowX, 270);
+  count.width = 1380;
+  t.push_back(count);
   t.push_back(title(1, "Last", kHighX - 600, 300, 540));
   t.push_back(aim(1, " Number of total data including blank, can be typed in ", kHighX, 240));
   t.push_back(title(2, "Sum", kTitleX, 720));
@@ -153,10 +155,10 @@ void AddFigures(std::vector<Design>& t) {
   t.push_back(title(9, "(%)", kTitleX, 3180));
   t.push_back(figure(6, " Atcual % over Low Limit ", kLowX, 3150));
   t.push_back(figure(7, " Actual % over High Limit ", kHighX, 3150));
-  t.push_back(title(10, "Statistically over limit(%)", kTitleX, 3600, 3000));
-  t.push_back(title(11, "(at Normal Distribu.)", kTitleX, 4020, 1200));
-  t.push_back(figure(8, " Statistical % over Low Limit ", kLowX, 3990));
-  t.push_back(figure(9, " Statistical % over High Limit ", kHighX, 3990));
+  t.push_back(title(10, "Statistically over limit(%)", kTitleX, 3570, 3000));
+  t.push_back(title(11, "(at Normal Distribu.)", kTitleX, 3810, 3000));
+  t.push_back(figure(8, " Statistical % over Low Limit ", kLowX, 4110));
+  t.push_back(figure(9, " Statistical % over High Limit ", kHighX, 4110));
 }
 
 void AddButtons(std::vector<Design>& t) {
