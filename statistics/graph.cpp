@@ -114,8 +114,8 @@ void frmStatistics::DrawCurves(Canvas& target, double shift) {
   for (int i = 1; i <= 365; ++i) {
     const double x2 = h * i;
     const float c2 = static_cast<float>(c + (YYY(x1) + YYY(x2)) * h / 2);
-    target.Line(mid + 700 * x1, mid - 4000 * c, mid + 700 * x2, mid - 4000 * c2, kRed);
-    target.Line(mid - 700 * x1, mid + 4000 * c, mid - 700 * x2, mid + 4000 * c2, kRed);
+    target.Line(mid + 700 * x1, mid - 4000.0 * c, mid + 700 * x2, mid - 4000.0 * c2, kRed);
+    target.Line(mid - 700 * x1, mid + 4000.0 * c, mid - 700 * x2, mid + 4000.0 * c2, kRed);
     x1 = x2;
     c = c2;
   }
