@@ -102,13 +102,16 @@ TEST_F(Graph, ReportFromTheGraphClosesIt) {
   ASSERT_EQ(host.jobs.size(), 1u);
   EXPECT_FALSE(c("picGraph").Visible);
   const PrintJob& job = host.jobs[0];
-  ASSERT_EQ(job.pages.size(), 2u);
+  // The figures with a limit and blanks pass the foot of the first page; the
+  // list starts on a page of its own.
+  ASSERT_EQ(job.pages.size(), 3u);
+  EXPECT_EQ(Lines(job, 1).at(0).find("Statistically Over Limit : "), 14u);
   const auto& first = Lines(job, 0);
   EXPECT_TRUE(Has(first, std::string(57, ' ') + "INCLUDE BLANK "));
   EXPECT_TRUE(Has(first, std::string(19, ' ') + "Count : " + std::string(12, ' ') + "4" +
                              std::string(25, ' ') + " 5 "));
   EXPECT_TRUE(Has(first, std::string(19, ' ') + "(not include blank data)"));
-  const auto& second = Lines(job, 1);
+  const auto& second = Lines(job, 2);
   EXPECT_TRUE(Has(second, std::string(24, ' ') + "1" + std::string(12, ' ') + "Blank"));
   EXPECT_TRUE(Has(second, std::string(24, ' ') + "2" + std::string(14, ' ') + "3."));
 }
