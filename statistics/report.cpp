@@ -47,8 +47,9 @@ void frmStatistics::PubPrintGraph() {
   p.Box(2000, 2000, 9500, 8500, kBlack, false);
   p.DrawWidth = 2;
   for (const double y : {3000.0, 3900.0, 7000.0, 8120.0}) p.Line(2000, y, 9500, y, kBlack);
-  for (double x = 4080; x <= 6600; x += 500) p.Line(x, 7000, x, 6650, kBlack);
-  for (double x = 4300; x <= 5500; x += 500) p.Line(x, 7000, x, 6600, kBlack);
+  // Rulers along both sides of the frame.
+  for (double y = 4080; y <= 6600; y += 500) p.Line(2000, y, 2350, y, kBlack);
+  for (double y = 4300; y <= 5500; y += 500) p.Line(9500, y, 9100, y, kBlack);
   for (double y = 5960; y <= 6960; y += 200) p.Line(2000, y, 2100, y, kBlack);
   for (double y = 2950; y <= 7100; y += 200) p.Line(9400, y, 9500, y, kBlack);
 
