@@ -1,6 +1,7 @@
 // Entry on the data sheet: the twenty cells that page by five, the three
 // limit boxes, insert and delete in place order.
 #include <algorithm>
+#include <cmath>
 
 #include "numeric/numeric.h"
 #include "statistics/statistics.h"
@@ -18,10 +19,14 @@ constexpr const char* kTooLong = " Sorry!  Too  Long / Big  ... ";
 
 // More than six decimals. The test is made on the number as typed, in
 // decimal, so that a figure such as 4.35 is not refused for the binary
-// rounding of 4.35 x 10^6.
-bool BeyondSixDecimals(const std::string& text) {
-  const Value n = CDec(Value(text)) * CDec(Value(1000000));
-  return Int(n) != n;
+// rounding of 4.35 x 10^6. A number too large for the decimal type is whole;
+// one too small for it has decimals far beyond the sixth.
+bool BeyondSixDecimals(const std::string& text, double work) {
+  if (std::fabs(work) >= 1e15) return false;
+  const Value n = CDec(Value(text));
+  if (work != 0 && n == Value(0)) return true;
+  const Value scaled = n * CDec(Value(1000000));
+  return Int(scaled) != scaled;
 }
 }  // namespace
 
@@ -89,7 +94,7 @@ void frmStatistics::txtBBBLostFocus(int index) {
   } else {
     if (!IsNumeric(Value(box.Text))) return Refuse(box, kNumberOnly, S.OldText);
     const double Work = CDbl(Value(box.Text)).number();
-    if (BeyondSixDecimals(box.Text)) return Refuse(box, kSixDecimals, "");
+    if (BeyondSixDecimals(box.Text, Work)) return Refuse(box, kSixDecimals, "");
     if (Work >= 1e6 || Len(Value(box.Text)) > 8) return Refuse(box, kTooLong, "");
     S.Data[S.DataPlace] = Work;
     S.DataText[S.DataPlace] = Format(Value(Work), kMaskData);
@@ -160,7 +165,7 @@ void frmStatistics::txtAimLostFocus(int index) {
   } else {
     if (!IsNumeric(Value(box.Text))) return Refuse(box, kNumberOnly, "");
     const double Work = CDbl(Value(box.Text)).number();
-    if (BeyondSixDecimals(box.Text)) return Refuse(box, kSixDecimals, "");
+    if (BeyondSixDecimals(box.Text, Work)) return Refuse(box, kSixDecimals, "");
     if (Len(Value(box.Text)) >= 9 || Work >= 1e6) return Refuse(box, kTooLong, "");
     S.Aim[index] = Work;
     S.AimText[index] = box.Text;

@@ -1,6 +1,7 @@
 #include "statistics/statistics.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "statistics/statistics_design.h"
 #include "surface/application.h"
@@ -77,12 +78,25 @@ void frmStatistics::PubEndData() {
 void frmStatistics::PubCheckSpace(const std::string& text) { SpaceFlag = IsBlankRun(text, 23); }
 
 void frmStatistics::PubSum() {
-  Value sum = CDec(Value(0));
   const int last = std::min(static_cast<int>(S.Aim[1]), StatisticsSheet::kPlaces - 1);
-  for (int i = 1; i <= last; ++i)
-    if (S.Data[i] != 0) sum += CDec(Value(S.Data[i]));
-  S.SumExact = sum;
-  S.DataSum = sum.number();
+  double sum = 0;
+  bool decimal = true;
+  for (int i = 1; i <= last; ++i) {
+    sum += S.Data[i];
+    // A large negative figure passes the entry tests; the decimal sum
+    // holds only what the sheet is meant for.
+    if (std::fabs(S.Data[i]) >= 1e15) decimal = false;
+  }
+  if (decimal) {
+    Value exact = CDec(Value(0));
+    for (int i = 1; i <= last; ++i)
+      if (S.Data[i] != 0) exact += CDec(Value(S.Data[i]));
+    S.SumExact = exact;
+    S.DataSum = exact.number();
+  } else {
+    S.SumExact = Value(sum);
+    S.DataSum = sum;
+  }
 }
 
 double frmStatistics::Average() const { return (S.SumExact / Value(S.DataCount)).number(); }

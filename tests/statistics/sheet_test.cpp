@@ -33,6 +33,16 @@ TEST_F(Sheet, SixDecimalsCountedOnTheTypedNumber) {
   EXPECT_EQ(cell(5), "");
   EXPECT_EQ(app.focused(), &c("txtBBB", 5));
   EXPECT_EQ(sheet().DataCount, 4);
+  // Beyond the decimal type at both ends: refused, never a failure.
+  type("txtBBB", 5, "1e-300");
+  enter("txtBBB", 5);
+  type("txtBBB", 5, "1e300");
+  enter("txtBBB", 5);
+  EXPECT_EQ(messages(), (std::vector<std::string>{" Sorry! Upto  0.000 001,  No Lower Numer. ",
+                                                  " Sorry! Upto  0.000 001,  No Lower Numer. ",
+                                                  " Sorry!  Too  Long / Big  ... "}));
+  EXPECT_FALSE(app.failed());
+  EXPECT_EQ(sheet().DataCount, 4);
 }
 
 TEST_F(Sheet, RefusalsKeepTheSheet) {
