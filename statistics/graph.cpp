@@ -4,15 +4,15 @@
 #include <algorithm>
 
 #include "numeric/numeric.h"
+#include "statistics/colours.h"
 #include "statistics/statistics.h"
 
 namespace tessaron {
 
 namespace {
+using namespace stats;
 constexpr const char* kTitle = "Tessaron";
 constexpr const char* kNotAvailable = " Graph is not available. ";
-constexpr long kGreen = 0x008000;  // Rgb(0, 128, 0)
-constexpr long kRed = 0x0000FF;    // Rgb(255, 0, 0)
 
 std::string Share(double fraction) { return Format(Value(100 * fraction), kMaskGraph) + "%"; }
 }  // namespace

@@ -2,15 +2,14 @@
 // figures, then the sorted list of the data with their quantities.
 #include "numeric/numeric.h"
 #include "shell/print_frame.h"
+#include "statistics/colours.h"
 #include "statistics/statistics.h"
 #include "surface/printer.h"
 
 namespace tessaron {
 
 namespace {
-constexpr long kBlack = 0;
-constexpr long kOrange = 0x0080FF;  // Rgb(255, 128, 0)
-constexpr long kBlue = 0xFF0000;    // Rgb(0, 0, 255)
+using namespace stats;
 // The foot of the printable page: a line that would pass it goes on the next.
 constexpr double kPageFoot = 15120;
 

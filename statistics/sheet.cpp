@@ -4,14 +4,13 @@
 #include <cmath>
 
 #include "numeric/numeric.h"
+#include "statistics/colours.h"
 #include "statistics/statistics.h"
 
 namespace tessaron {
 
 namespace {
-constexpr long kWhite = 0xFFFFFF;
-constexpr long kRest = 0xCCFFFF;   // Rgb(255, 255, 204)
-constexpr long kLimit = 0xFFE7E7;  // Rgb(231, 231, 255)
+using namespace stats;
 constexpr const char* kTitle = "Tessaron";
 constexpr const char* kNumberOnly = " Please Enter Number Only ! ";
 constexpr const char* kSixDecimals = " Sorry! Upto  0.000 001,  No Lower Numer. ";

@@ -1,17 +1,12 @@
 #include "statistics/statistics_design.h"
 
+#include "statistics/colours.h"
+
 namespace tessaron {
 
 namespace {
+using namespace stats;
 using K = ControlKind;
-
-constexpr long kWhite = 0xFFFFFF;
-constexpr long kRest = 0xCCFFFF;   // Rgb(255, 255, 204)
-constexpr long kLimit = 0xFFE7E7;  // Rgb(231, 231, 255)
-constexpr long kOrange = 0x0080FF;
-constexpr long kBlue = 0xFF0000;
-constexpr long kGreen = 0x008000;
-constexpr long kRed = 0x0000FF;
 
 // The sheet: twenty rows of place number and cell, a scroll bar beside them.
 constexpr int kRowTop = 300, kRowPitch = 300;
