@@ -58,6 +58,19 @@ TEST_F(Measures, AllDataEqual) {
   EXPECT_EQ(figure(9), "100. %");
 }
 
+// The sum is kept in decimal: equal data with decimals average to
+// themselves, so that their deviation is exactly 0, as for whole numbers.
+TEST_F(Measures, EqualDecimalsHaveNoDeviation) {
+  entries({"0.1", "0.1", "0.1", "0.1", "0.1", "0.1", "0.1"});
+  type("txtAim", 3, "0.05");
+  click("cmdCalc");
+  EXPECT_EQ(sheet().DataAvg, 0.1);
+  EXPECT_EQ(sheet().DataDev, 0);
+  EXPECT_EQ(figure(9), "0. %");
+  click("cmdGraph");
+  EXPECT_EQ(messages(), std::vector<std::string>{" Graph is not available. "});
+}
+
 TEST_F(Measures, BeyondFiveDeviations) {
   entries({"9", "11"});
   type("txtAim", 2, "3");
