@@ -10,6 +10,7 @@
 #include "finance/present.h"
 #include "shell/about_form.h"
 #include "shell/main_form.h"
+#include "statistics/statistics.h"
 #include "surface/application.h"
 #include "units/conver.h"
 
@@ -27,6 +28,8 @@ void registerSuite(Application& app) {
   app.registerForm("OviCalc", [](Application& a) { return std::make_unique<OviCalc>(a); });
   app.registerForm("OviSum", [](Application& a) { return std::make_unique<OviSum>(a); });
   app.registerForm("frmConver", [](Application& a) { return std::make_unique<frmConver>(a); });
+  app.registerForm("frmStatistics",
+                   [](Application& a) { return std::make_unique<frmStatistics>(a); });
 }
 
 }  // namespace tessaron
