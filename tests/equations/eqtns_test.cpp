@@ -177,6 +177,34 @@ TEST_F(Eqtns, EqualRootsSitLowOrHigh) {
   EXPECT_EQ(eq().OriginY, Value(1500));
 }
 
+int BlueCircles(const Canvas& c) {
+  int n = 0;
+  for (const DrawOp& op : c.ops())
+    if (op.kind == DrawOp::Kind::Circle && op.colour == Rgb(0, 0, 255)) ++n;
+  return n;
+}
+
+TEST_F(Eqtns, RootsAreMarkedInBlueComplexOnesAreNot) {
+  solve(1, {{1, "1"}, {2, "-3"}, {3, "2"}});
+  click("cmdGraph");
+  EXPECT_EQ(BlueCircles(c("picGraph").picture()), 2);
+  click("cmdReturn");
+  solve(1, {{1, "1"}, {2, "2"}, {3, "5"}});
+  click("cmdGraph");
+  EXPECT_EQ(BlueCircles(c("picGraph").picture()), 0);
+  EXPECT_EQ(eq().OriginY, Value(5300));
+  EXPECT_EQ(eq().AnsCount, Value(0));
+}
+
+TEST_F(Eqtns, CubicScalesKeepAWholeRatio) {
+  solve(2, {{1, "20"}, {2, "0"}, {3, "-20"}, {4, "0"}});
+  click("cmdGraph");
+  EXPECT_EQ(c("lblFx", 0).Caption, "Graph: y = f(x)  *  20");
+  const Value ratio = eq().ScaleX / eq().ScaleY;
+  EXPECT_EQ(Int(ratio), ratio);
+  EXPECT_EQ(BlueCircles(c("picGraph").picture()), 3);
+}
+
 TEST_F(Eqtns, PrintNoLeavesEverything) {
   solve(1, {{1, "1"}, {2, "-3"}, {3, "2"}});
   click("cmdGraph");
