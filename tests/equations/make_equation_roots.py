@@ -22,6 +22,7 @@ Lines (tab separated):
 """
 
 import random
+from fractions import Fraction as F
 
 import numpy as np
 
@@ -67,7 +68,6 @@ def quadratic(tag, a, b, c):
     af, bf, cf = (float(t) for t in ts)
     r = np.roots([af, bf, cf])
     # The kind of the roots from the exact sign of b^2 - 4ac on the typed figures.
-    from fractions import Fraction as F
     d = F(ts[1]) ** 2 - 4 * F(ts[0]) * F(ts[2])
     if d >= 0:
         roots = sorted(float(z.real) for z in r)
@@ -89,9 +89,6 @@ def system(kind, tag, rows):
     A = np.array([[float(t) for t in row[:n]] for row in ts])
     k = np.array([float(row[n]) for row in ts])
     flat = ",".join(",".join(row) for row in ts)
-    if n == 3:
-        # The form lays three rows out four boxes a row: a b c d.
-        pass
     if np.linalg.matrix_rank(A) < n:
         lines.append("%s\t%s\t%s\tsingular" % (kind, tag, flat))
         return
