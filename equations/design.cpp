@@ -8,7 +8,7 @@ namespace tessaron {
 namespace {
 using K = ControlKind;
 
-constexpr int kBoxWidth = 1020, kBoxStep = 1500, kRowStep = 600, kRowTop = 480;
+constexpr int kBoxWidth = 1140, kBoxStep = 1740, kRowStep = 600, kRowTop = 480;
 constexpr long kWhite = 0xFFFFFF;
 
 Design option(int index, const char* caption, const char* tip, bool twin, bool visible) {
@@ -40,7 +40,7 @@ Design box(int index) {
           .height = 420,
           .container = "fmData",
           .visible = index <= 3,
-          .fontSize = 11,
+          .fontSize = 10,
           .alignment = Align::Right};
 }
 
@@ -55,7 +55,7 @@ Design word(int index) {
           .height = 300,
           .container = "fmData",
           .visible = index <= 3,
-          .fontSize = 10};
+          .fontSize = 9};
 }
 
 // The exponents stand raised just after the X of the first and second words.
@@ -63,7 +63,7 @@ Design exponent(int index, int col) {
   return {.kind = K::Label,
           .name = "lblCCC",
           .index = index,
-          .left = 120 + col * kBoxStep + kBoxWidth + 170,
+          .left = 120 + col * kBoxStep + kBoxWidth + 150,
           .top = kRowTop - 40,
           .width = 150,
           .height = 240,
@@ -78,7 +78,7 @@ Design answerRow(int index) {
           .index = index,
           .left = 900,
           .top = 420 + index * 720,
-          .width = 5220,
+          .width = 6180,
           .height = 480,
           .container = "fmAns",
           .backColor = kWhite,
@@ -104,7 +104,7 @@ Design key(const char* name, const char* caption, const char* tip, int left) {
           .tip = tip,
           .left = left,
           .top = 6180,
-          .width = 1440,
+          .width = 1620,
           .height = 660,
           .fontSize = 10};
 }
@@ -130,7 +130,7 @@ Design graphText(int index) {
           .index = index,
           .left = 6840,
           .top = 120 + index * 540,
-          .width = 2640,
+          .width = 3480,
           .height = 480,
           .container = "picGraph",
           .visible = false};
@@ -195,7 +195,7 @@ std::vector<Design> frmEqtns::designTable() {
        .caption = " Input  Coefficient / Constant  ",
        .left = 3240,
        .top = 120,
-       .width = 6240,
+       .width = 7200,
        .height = 2280},
   };
   for (int i = 1; i <= 12; ++i) t.push_back(box(i));
@@ -207,14 +207,14 @@ std::vector<Design> frmEqtns::designTable() {
                .caption = " Answer  ",
                .left = 3240,
                .top = 2520,
-               .width = 6240,
+               .width = 7200,
                .height = 3480});
   for (int i = 0; i <= 3; ++i) t.push_back(answerWord(i));
   for (int i = 0; i <= 3; ++i) t.push_back(answerRow(i));
   t.push_back(key("cmdCalc", "Solve", " Solve equation ", 3240));
-  t.push_back(key("cmdDel", "Delete", " Delete inputted coefficient data ", 4800));
-  t.push_back(key("cmdGraph", "Graph", " Show Graph ", 6360));
-  t.push_back(key("cmdExit", "Exit", " Close Equations ", 7920));
+  t.push_back(key("cmdDel", "Delete", " Delete inputted coefficient data ", 5100));
+  t.push_back(key("cmdGraph", "Graph", " Show Graph ", 6960));
+  t.push_back(key("cmdExit", "Exit", " Close Equations ", 8820));
 
   // The graph: picture units 0 to 6700 both ways, y downward; its texts and
   // keys stand in the strip on the right.
@@ -222,7 +222,7 @@ std::vector<Design> frmEqtns::designTable() {
                .name = "picGraph",
                .left = 0,
                .top = 0,
-               .width = 9600,
+               .width = 10560,
                .height = 7050,
                .visible = false,
                .backColor = kWhite});
@@ -234,16 +234,16 @@ std::vector<Design> frmEqtns::designTable() {
   t.push_back(graphLabel("lblY", "y", 3280, 0, 150, true));
   t.push_back(graphLabel("lblY1", "", 3300, 6740, 1500, false));
   t.push_back(graphLabel("lblX1", "", 40, 3200, 1500, false));
-  t.push_back(graphLabel("lblZZ", "", 6840, 2340, 2640, false));
+  t.push_back(graphLabel("lblZZ", "", 6840, 2340, 3480, false));
   for (int i = 0; i <= 3; ++i) t.push_back(graphText(i));
-  t.push_back(graphKey("cmdZoom", 0, "Zoom +", 6900, 3000, 1200, 480));
-  t.push_back(graphKey("cmdZoom", 1, "Zoom -", 8220, 3000, 1200, 480));
-  t.push_back(graphKey("cmdZoom", 2, "\u2191", 7560, 3660, 600, 420));
-  t.push_back(graphKey("cmdZoom", 3, "\u2192", 8220, 4140, 600, 420));
-  t.push_back(graphKey("cmdZoom", 4, "\u2193", 7560, 4620, 600, 420));
-  t.push_back(graphKey("cmdZoom", 5, "\u2190", 6900, 4140, 600, 420));
-  t.push_back(graphKey("cmdPrint", -1, "Print", 6900, 5640, 1200, 540));
-  t.push_back(graphKey("cmdReturn", -1, "Return", 8220, 5640, 1200, 540));
+  t.push_back(graphKey("cmdZoom", 0, "Zoom +", 7080, 3000, 1500, 480));
+  t.push_back(graphKey("cmdZoom", 1, "Zoom -", 8760, 3000, 1500, 480));
+  t.push_back(graphKey("cmdZoom", 2, "\u2191", 8340, 3660, 600, 420));
+  t.push_back(graphKey("cmdZoom", 3, "\u2192", 8940, 4140, 600, 420));
+  t.push_back(graphKey("cmdZoom", 4, "\u2193", 8340, 4620, 600, 420));
+  t.push_back(graphKey("cmdZoom", 5, "\u2190", 7740, 4140, 600, 420));
+  t.push_back(graphKey("cmdPrint", -1, "Print", 7080, 5640, 1500, 540));
+  t.push_back(graphKey("cmdReturn", -1, "Return", 8760, 5640, 1500, 540));
   return t;
 }
 

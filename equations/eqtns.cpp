@@ -59,7 +59,7 @@ const Layout kLayouts[5] = {
 
 frmEqtns::frmEqtns(Application& app)
     : Form(app, "frmEqtns",
-           {.caption = "  Ovi   Equation ", .width = 9720, .height = 7500, .keyPreview = true},
+           {.caption = "  Ovi   Equation ", .width = 10680, .height = 7500, .keyPreview = true},
            designTable()) {
   routes();
 }
