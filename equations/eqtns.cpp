@@ -16,7 +16,7 @@ constexpr long kWhite = 0xFFFFFF;
 struct Layout {
   const char* title;
   int lastBox;
-  bool skipsFour;                     // box 4 (and everything past 7) stays hidden
+  bool skipsFour;                     // box 4 stays hidden between the two rows
   std::array<const char*, 13> words;  // index 1..12
   const char* exp13;
   const char* exp14;
