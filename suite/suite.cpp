@@ -2,6 +2,7 @@
 
 #include "calc/ovicalc.h"
 #include "chart/ovisum.h"
+#include "equations/eqtns.h"
 #include "finance/annuity.h"
 #include "finance/auto.h"
 #include "finance/bond.h"
@@ -30,6 +31,7 @@ void registerSuite(Application& app) {
   app.registerForm("frmConver", [](Application& a) { return std::make_unique<frmConver>(a); });
   app.registerForm("frmStatistics",
                    [](Application& a) { return std::make_unique<frmStatistics>(a); });
+  app.registerForm("frmEqtns", [](Application& a) { return std::make_unique<frmEqtns>(a); });
 }
 
 }  // namespace tessaron
