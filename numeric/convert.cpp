@@ -245,7 +245,11 @@ double Val(std::string_view t) {
 bool IsNumeric(const Value& v) {
   if (v.kind() != Kind::String) return true;
   detail::NumText n;
-  return detail::ReadNumeric(v.AsString(), n);
+  if (!detail::ReadNumeric(v.AsString(), n)) return false;
+  // Text for a number beyond the range of a Real cannot be read as a number,
+  // so the forms refuse it like any other text rather than fail on it later.
+  const std::string text = "0." + n.digits + "e" + std::to_string(n.point);
+  return std::isfinite(std::strtod(text.c_str(), nullptr));
 }
 
 Value CDbl(const Value& v) { return Value(v.number()); }

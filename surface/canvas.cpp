@@ -34,9 +34,11 @@ void Canvas::Print(std::initializer_list<PrintItem> items, bool lineEnd) {
   const bool placed = CurrentX != penX_ || CurrentY != penY_;
   if (placed) {
     column_ = 1;
+    textColumn_ = 1;
     runFrom_ = false;
     freshLine();
   }
+  if (column_ == 1) beforeLine();
   const double cw = columnWidth(FontSize) * twipsX();
   const double lh = lineHeight(FontSize) * twipsY();
   const double left = scaled_ ? scaleX1_ : 0;
@@ -46,11 +48,13 @@ void Canvas::Print(std::initializer_list<PrintItem> items, bool lineEnd) {
       if (column_ > n) {
         endedLine();
         CurrentY += lh;
+        beforeLine();
       }
       column_ = n;
+      textColumn_ = n;
       CurrentX = left + (n - 1) * cw;
       runFrom_ = false;
-      wrote("", column_);
+      wrote("", textColumn_);
       continue;
     }
     const std::string text = itemText(std::get<Value>(item));
@@ -69,16 +73,19 @@ void Canvas::Print(std::initializer_list<PrintItem> items, bool lineEnd) {
            .text = text});
     }
     runFrom_ = true;
-    wrote(text, column_);
-    const int len = Len(Value(text));
-    column_ += len;
-    CurrentX += len * cw;
+    wrote(text, textColumn_);
+    textColumn_ += Len(Value(text));
+    double width = 0;
+    for (const char16_t unit : ToUtf16(text)) width += unit == u' ' ? 0.5 : 1;
+    column_ += width;
+    CurrentX += width * cw;
   }
   if (lineEnd) {
     endedLine();
     CurrentX = left;
     CurrentY += lh;
     column_ = 1;
+    textColumn_ = 1;
     runFrom_ = false;
   }
   penX_ = CurrentX;
@@ -126,6 +133,7 @@ void Canvas::Cls() {
   ops_.clear();
   CurrentX = CurrentY = penX_ = penY_ = 0;
   column_ = 1;
+  textColumn_ = 1;
   runFrom_ = false;
 }
 

@@ -74,6 +74,8 @@ class Canvas {
   // Text placed from code starts a line of its own.
   virtual void freshLine() {}
   virtual void endedLine() {}
+  // Called before text goes on a new line at CurrentY.
+  virtual void beforeLine() {}
   std::vector<DrawOp> ops_;
 
  private:
@@ -86,9 +88,12 @@ class Canvas {
   double extentW_ = 0, extentH_ = 0;
   double scaleX1_ = 0, scaleY1_ = 0, scaleX2_ = 0, scaleY2_ = 0;
   bool scaled_ = false;
-  int column_ = 1;
-  bool runFrom_ = false;  // the last op is text the next item continues  // character column of the
-                          // pen on its line
+  // Where the pen stands on its line in columns of the font. The page is set
+  // in proportional type, where a blank is half as wide as a digit, so a run
+  // of blanks that aligns figures moves the pen half a column a blank.
+  double column_ = 1;
+  int textColumn_ = 1;    // the character column of the printed line
+  bool runFrom_ = false;  // the last op is text the next item continues
 };
 
 }  // namespace tessaron

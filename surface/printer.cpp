@@ -15,6 +15,15 @@ void PrinterDevice::wrote(const std::string& text, int column) {
 
 void PrinterDevice::endedLine() { flushLine(); }
 
+void PrinterDevice::beforeLine() {
+  // A line that would pass the page's foot runs on to the next page, as the
+  // platform printer does, at the same distance from the left.
+  if (CurrentY + lineHeight(FontSize) <= kPageFoot) return;
+  const double x = CurrentX;
+  NewPage();
+  CurrentX = x;
+}
+
 void PrinterDevice::flushLine() {
   lines_.push_back(line_);
   line_.clear();

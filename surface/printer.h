@@ -28,6 +28,10 @@ struct PrintJob {
 
 class PrinterDevice : public Canvas {
  public:
+  // The foot of the printable page, in twips from its top: a Letter page
+  // with quarter-inch margins, as the print preview sets it up.
+  static constexpr double kPageFoot = 15120;
+
   std::function<void(const PrintJob&)> onEndDoc;
 
   void NewPage();
@@ -42,6 +46,7 @@ class PrinterDevice : public Canvas {
   void wrote(const std::string& text, int column) override;
   void freshLine() override;
   void endedLine() override;
+  void beforeLine() override;
 
  private:
   void flushLine();

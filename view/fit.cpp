@@ -22,6 +22,9 @@ namespace {
 constexpr int kCellPadding = 3;
 // Pixels a frame's title keeps clear of the frame's corners.
 constexpr int kTitleInset = 16;
+// The smallest face a caption is drawn in, as a share of its own: a long
+// figure on a memory key still reads at three fifths of its size.
+constexpr double kSmallest = 0.6;
 
 int widestLine(const QFontMetrics& fm, const QString& text) {
   int widest = 0;
@@ -38,6 +41,14 @@ struct Check {
   }
 };
 
+// Where a button's words go: a push button's face, or beside the mark of an
+// option or check box.
+QStyle::SubElement textElement(const QAbstractButton& b) {
+  if (qobject_cast<const QPushButton*>(&b)) return QStyle::SE_PushButtonContents;
+  if (qobject_cast<const QRadioButton*>(&b)) return QStyle::SE_RadioButtonContents;
+  return QStyle::SE_CheckBoxContents;
+}
+
 QRect contents(const QAbstractButton& b, QStyle::SubElement element) {
   QStyleOptionButton opt;
   opt.initFrom(&b);
@@ -52,12 +63,16 @@ void measure(const QWidget& w, const QString& text, const QFont& face, const Che
     int need = widestLine(fm, text);
     if (!b->icon().isNull() && !text.isEmpty()) need += b->iconSize().width() + 4;
     check(text, need, room.width());
-    check(text, fm.height() * static_cast<int>(text.count(QLatin1Char('\n')) + 1),
+    // One line needs the height of its ink (a lone "." in a large face fits
+    // a low key); more lines need their full spacing.
+    const int lines = static_cast<int>(text.count(QLatin1Char('\n'))) + 1;
+    check(text, lines == 1 ? fm.tightBoundingRect(text).height() : lines * fm.height(),
           room.height() + 2);
-  } else if (auto* r = qobject_cast<const QRadioButton*>(&w)) {
-    check(text, widestLine(fm, text), contents(*r, QStyle::SE_RadioButtonContents).width());
   } else if (auto* x = qobject_cast<const QAbstractButton*>(&w)) {
-    check(text, widestLine(fm, text), contents(*x, QStyle::SE_CheckBoxContents).width());
+    const QRect room = contents(*x, textElement(*x));
+    const int lines = static_cast<int>(text.count(QLatin1Char('\n'))) + 1;
+    check(text, widestLine(fm, text), room.width());
+    check(text, lines == 1 ? fm.tightBoundingRect(text).height() : lines * fm.height(), w.height());
   } else if (auto* l = qobject_cast<const QLabel*>(&w)) {
     const QRect room = l->contentsRect();
     const QRect need = fm.boundingRect(QRect(0, 0, room.width(), 1 << 20),
@@ -93,11 +108,11 @@ void put(QWidget& w, const QString& text, const QFont& face) {
     b->setText(text);
 }
 
-// Breaks a button's caption at its runs of blanks into lines no wider than
-// the box; a run at a break goes, a run inside a line stays.
-QString wrapped(const QPushButton& b, const QString& text, const QFont& face) {
+// Breaks a button's or choice's caption at its runs of blanks into lines no
+// wider than its room; a run at a break goes, a run inside a line stays.
+QString wrapped(const QAbstractButton& b, const QString& text, const QFont& face) {
   const QFontMetrics fm(face);
-  const int room = contents(b, QStyle::SE_PushButtonContents).width();
+  const int room = contents(b, textElement(b)).width();
   const QString t = text.trimmed();
   QStringList lines;
   QString line;
@@ -136,13 +151,14 @@ void grid(const QTableWidget& t, const std::string& name, std::vector<Unfit>& ou
 }  // namespace
 
 void fitCaption(QWidget& w, const QString& caption, const QFont& face) {
-  auto* button = qobject_cast<QPushButton*>(&w);
+  auto* button = qobject_cast<QAbstractButton*>(&w);
   const bool wraps = button && !caption.contains(QLatin1Char('\n'));
   for (const QString& t :
        {caption, wraps ? wrapped(*button, caption, face) : caption, caption.trimmed()})
     if (fits(w, t, face)) return put(w, t, face);
   QFont smaller = face;
-  for (double size = face.pointSizeF() - 0.25; size >= face.pointSizeF() * 0.8; size -= 0.25) {
+  for (double size = face.pointSizeF() - 0.25; size >= face.pointSizeF() * kSmallest;
+       size -= 0.25) {
     smaller.setPointSizeF(size);
     for (const QString& t :
          {caption.trimmed(), wraps ? wrapped(*button, caption, smaller) : caption.trimmed()})

@@ -21,10 +21,10 @@ struct Unfit {
 };
 
 // Puts a caption on a button, label, choice or frame so that it fits its box:
-// as given when it does; a button's words broken at blanks over the lines its
-// height has room for, as the platform's buttons wrap; and where the words
-// still do not fit, outer blanks dropped and the face made a little smaller,
-// down to four fifths of its size, rather than cut.
+// as given when it does; a button's or choice's words broken at blanks over
+// the lines its height has room for, as the platform's buttons wrap; and where the words
+// still do not fit, outer blanks dropped and the face made smaller, down to
+// three fifths of its size, rather than cut.
 void fitCaption(QWidget& widget, const QString& caption, const QFont& face);
 
 // Every text on the window's visible controls that its box cuts.

@@ -13,6 +13,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QTableWidget>
 
 #include "surface/application.h"
@@ -25,6 +26,27 @@
 #include "view/widgets.h"
 
 namespace tessaron::view {
+
+namespace {
+// A grid's current cell keeps its frame whether or not the grid has the
+// keyboard focus, so the chosen cell stays marked while the user works
+// elsewhere on the form.
+class CurrentCellFrame : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  void paint(QPainter* p, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    QStyledItemDelegate::paint(p, option, index);
+    const auto* table = qobject_cast<const QAbstractItemView*>(parent());
+    if (!table || table->currentIndex() != index) return;
+    p->save();
+    p->setPen(QPen(option.palette.color(QPalette::Active, QPalette::Highlight), 2));
+    p->setBrush(Qt::NoBrush);
+    p->drawRect(QRectF(option.rect).adjusted(1, 1, -1, -1));
+    p->restore();
+  }
+};
+}  // namespace
 
 FormWindow::FormWindow(QtView& view, Form& form) : QWidget(nullptr), view_(view), form_(&form) {
   setAttribute(Qt::WA_DeleteOnClose, false);
@@ -159,6 +181,7 @@ QWidget* FormWindow::create(Item& item) {
       table->horizontalHeader()->hide();
       table->verticalHeader()->hide();
       table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+      table->setItemDelegate(new CurrentCellFrame(table));
       table->setSelectionMode(QAbstractItemView::NoSelection);
       table->setTabKeyNavigation(false);
       table->setWordWrap(false);

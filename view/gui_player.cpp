@@ -16,8 +16,12 @@
 #include <QTableWidget>
 #include <algorithm>
 #include <cstdio>
+#include <iostream>
+#include <set>
+#include <string>
 
 #include "surface/application.h"
+#include "view/fit.h"
 #include "view/form_window.h"
 #include "view/keys.h"
 #include "view/metrics.h"
@@ -363,11 +367,28 @@ class GuiPlayer : public Player {
       QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
       QCoreApplication::processEvents();
     }
+    if (checkFit_) tellUnfit();
+  }
+
+  // With TESSARON_CHECK_FIT set, each text that its box cuts is told once on
+  // standard error, as the scripts fill the windows.
+  void tellUnfit() {
+    for (Form* form : app_.loadedForms()) {
+      view::FormWindow* w = view_.window(*form);
+      if (!w || !w->isVisible()) continue;
+      for (const view::Unfit& u : view::unfitTexts(*w)) {
+        const std::string line = form->name() + "." + u.control + " \"" + u.text + "\" needs " +
+                                 std::to_string(u.need) + " px, has " + std::to_string(u.room);
+        if (toldUnfit_.insert(line).second) std::cerr << "unfit " << line << '\n';
+      }
+    }
   }
 
   std::unique_ptr<QApplication> qt_;
   Application& app_;
   view::QtView view_;
+  const bool checkFit_ = qEnvironmentVariableIsSet("TESSARON_CHECK_FIT");
+  std::set<std::string> toldUnfit_;
 };
 
 }  // namespace

@@ -42,10 +42,15 @@ void paintOps(QPainter& painter, const std::vector<DrawOp>& ops, const Surface& 
         m.y0 = s.area.top() - op.y1 * m.sy;
         break;
       }
-      case DrawOp::Kind::Line:
-        painter.setPen(pen(op, s));
+      case DrawOp::Kind::Line: {
+        QPen p = pen(op, s);
+        // A line from a point to itself is how a graph sets a single point:
+        // it shows as a dot of the pen's width.
+        if (op.x1 == op.x2 && op.y1 == op.y2) p.setCapStyle(Qt::SquareCap);
+        painter.setPen(p);
         painter.drawLine(m.at(op.x1, op.y1), m.at(op.x2, op.y2));
         break;
+      }
       case DrawOp::Kind::Box:
       case DrawOp::Kind::FilledBox: {
         painter.setPen(pen(op, s));

@@ -27,14 +27,16 @@ class FormFixture : public ::testing::Test {
     app.show(app.form(name_));
   }
   F& form() { return app.form<F>(name_); }
-  Control& c(const char* name) { return form().control(name); }
-  std::string text(const char* name) { return c(name).Text; }
-  std::string caption(const char* name) { return c(name).Caption; }
-  void type(const char* box, const std::string& t) { app.type(c(box), t); }
+  Control& c(const char* name, int index = -1) { return form().control(name, index); }
+  std::string text(const char* name, int index = -1) { return c(name, index).Text; }
+  std::string caption(const char* name, int index = -1) { return c(name, index).Caption; }
+  void type(const char* box, const std::string& t, int index = -1) { app.type(c(box, index), t); }
   void click(const char* name) { app.click(c(name)); }
   void focus(const char* name) { app.focus(c(name)); }
   void scroll(const char* bar, int v) { app.scroll(c(bar), v); }
-  void enter(const char* box) { app.press(c(box), 13); }
+  void enter(const char* box, int index = -1) { app.press(c(box, index), 13); }
+  int bar(const char* name) { return CInt(c(name).value()).AsInt16(); }
+  std::string lastBox() { return host.boxes.empty() ? "" : host.boxes.back().text; }
   // The message boxes shown so far, as "TEXT", and forgets them.
   std::vector<std::string> messages() {
     std::vector<std::string> out;

@@ -6,7 +6,7 @@
 #include "finance/bond.h"
 #include "finance/gye.h"
 #include "finance/present.h"
-#include "tests/finance/savings_fixture.h"
+#include "tests/finance/form_fixture.h"
 
 namespace tessaron::test {
 namespace {
@@ -34,9 +34,9 @@ bool MarkAround(const PrintedPage& page, double left, double top) {
   return dots > 100;
 }
 
-class PresentForm : public SavingsFixture<frmPresent> {
+class PresentForm : public FormFixture<frmPresent> {
  protected:
-  PresentForm() : SavingsFixture("frmPresent") {}
+  PresentForm() : FormFixture("frmPresent") {}
 };
 
 TEST_F(PresentForm, PrintsTheNameAndTheMarkAtTheHead) {
@@ -87,9 +87,9 @@ TEST_F(PresentForm, EnterBelowTheRateFloorGoesToTheRate) {
   EXPECT_EQ(app.focused(), &c("cmdCalculate"));
 }
 
-class BondForm : public SavingsFixture<frmBond> {
+class BondForm : public FormFixture<frmBond> {
  protected:
-  BondForm() : SavingsFixture("frmBond") {}
+  BondForm() : FormFixture("frmBond") {}
 };
 
 TEST_F(BondForm, PrintsTheNameAndTheMarkAtTheHead) {
@@ -121,9 +121,9 @@ TEST_F(BondForm, FiftyYearsWithRestMonthsCountFortyNine) {
   EXPECT_NEAR(form().FutureAmount.number(), want, want * 1e-12);
 }
 
-class GyeForm : public SavingsFixture<frmGye> {
+class GyeForm : public FormFixture<frmGye> {
  protected:
-  GyeForm() : SavingsFixture("frmGye") {}
+  GyeForm() : FormFixture("frmGye") {}
   void inputs(const char* a, const char* n, const char* r) {
     type("txtBBB", a, 1);
     type("txtBBB", n, 2);

@@ -7,14 +7,14 @@
 #include "finance/bond.h"
 #include "finance/gye.h"
 #include "finance/present.h"
-#include "tests/finance/savings_fixture.h"
+#include "tests/finance/form_fixture.h"
 
 namespace tessaron::test {
 namespace {
 
-class PresentVectors : public SavingsFixture<frmPresent> {
+class PresentVectors : public FormFixture<frmPresent> {
  protected:
-  PresentVectors() : SavingsFixture("frmPresent") {}
+  PresentVectors() : FormFixture("frmPresent") {}
 };
 
 TEST_F(PresentVectors, AgreeWithTheIndependentComputation) {
@@ -47,9 +47,9 @@ TEST_F(PresentVectors, AgreeWithTheIndependentComputation) {
   }
 }
 
-class BondVectors : public SavingsFixture<frmBond> {
+class BondVectors : public FormFixture<frmBond> {
  protected:
-  BondVectors() : SavingsFixture("frmBond") {}
+  BondVectors() : FormFixture("frmBond") {}
 };
 
 TEST_F(BondVectors, AgreeWithTheIndependentComputation) {
@@ -78,9 +78,9 @@ TEST_F(BondVectors, AgreeWithTheIndependentComputation) {
   }
 }
 
-class GyeVectors : public SavingsFixture<frmGye> {
+class GyeVectors : public FormFixture<frmGye> {
  protected:
-  GyeVectors() : SavingsFixture("frmGye") {}
+  GyeVectors() : FormFixture("frmGye") {}
 };
 
 TEST_F(GyeVectors, AgreeWithTheIndependentComputation) {

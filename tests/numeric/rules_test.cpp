@@ -145,11 +145,12 @@ TEST(Rules, IsNumeric) {
     const char* text;
     bool want;
   } rows[] = {
-      {"-$5", true},    {"$-5", true}, {"($5)", true},  {"$ 5", true},        {"1,2,3", true},
-      {"1.5e-3", true}, {"1D3", true}, {"1E+3", true},  {"5.", true},         {"\t5", true},
-      {" - 5 ", true},  {"5 -", true}, {"1e400", true}, {"(1,234.50)", true}, {"1.5,", false},
-      {"$", false},     {"5$", false}, {",5", false},   {"-5-", false},       {"e3", false},
-      {"(5", false},    {"5)", false}, {"1 2", false},  {"0x10", false},
+      {"-$5", true},        {"$-5", true},   {"($5)", true},   {"$ 5", true},     {"1,2,3", true},
+      {"1.5e-3", true},     {"1D3", true},   {"1E+3", true},   {"5.", true},      {"\t5", true},
+      {" - 5 ", true},      {"5 -", true},   {"1e400", false}, {"1.7e308", true}, {"-1e999", false},
+      {"(1,234.50)", true}, {"1.5,", false}, {"$", false},     {"5$", false},     {",5", false},
+      {"-5-", false},       {"e3", false},   {"(5", false},    {"5)", false},     {"1 2", false},
+      {"0x10", false},
   };
   for (const auto& r : rows) {
     SCOPED_TRACE(r.text);

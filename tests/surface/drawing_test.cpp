@@ -135,6 +135,39 @@ TEST_F(PrinterTest, ATabToAPassedColumnGoesToTheNextLine) {
   EXPECT_EQ(lines(jobs[0]), (std::vector<std::string>{"abcdef", "  x"}));
 }
 
+TEST_F(PrinterTest, BlanksThatAlignFiguresTakeHalfAColumnOnThePage) {
+  // Eight blanks and "12" fill five columns of the proportional page, so a
+  // Tab to column 7 is not passed: the figure after it stays on the line,
+  // right after what the line already holds.
+  p.Print({Value("        12"), Tab(7), Value("x")});
+  // Ten letters do pass column 7.
+  p.Print({Value("abcdefghij"), Tab(7), Value("y")});
+  p.EndDoc();
+  EXPECT_EQ(lines(jobs[0]), (std::vector<std::string>{"        12x", "abcdefghij", "      y"}));
+  const auto& ops = jobs[0].pages[0].ops;
+  ASSERT_EQ(ops.size(), 4u);
+  EXPECT_EQ(ops[1].x1, 6 * Canvas::columnWidth(p.FontSize)) << "the x stands at column 7";
+  EXPECT_EQ(ops[1].y1, ops[0].y1);
+}
+
+TEST_F(PrinterTest, ALineThatWouldPassTheFootRunsOnToTheNextPage) {
+  p.CurrentY = PrinterDevice::kPageFoot - Canvas::lineHeight(p.FontSize) - 1;
+  p.CurrentX = 600;
+  p.Print({Value("last")});
+  p.Print({Value("over")});
+  p.CurrentY = 17000;
+  p.CurrentX = 900;
+  p.Print({Value("placed")});
+  p.EndDoc();
+  const auto& pages = jobs[0].pages;
+  ASSERT_EQ(pages.size(), 3u);
+  EXPECT_EQ(pages[0].lines, std::vector<std::string>{"last"});
+  EXPECT_EQ(pages[1].lines, std::vector<std::string>{"over"});
+  EXPECT_EQ(pages[1].ops[0].y1, 0);
+  EXPECT_EQ(pages[2].lines, std::vector<std::string>{"placed"});
+  EXPECT_EQ(pages[2].ops[0].x1, 900) << "the pen keeps its place across";
+}
+
 TEST_F(PrinterTest, SemicolonKeepsTheLineOpen) {
   p.Print({Value("a")}, false);
   p.Print({Value(5)}, false);

@@ -66,7 +66,8 @@ TEST_F(CaptionFit, TheMeasureTellsACutCaption) {
   app.run([&] { app.form("frmMain").Show(); });
   app.run([&] { app.form("frmAbout").Show(); });
   Form& about = app.form("frmAbout");
-  about.control("cmdOK").Caption = "OK, and a caption far too long for this button";
+  about.control("cmdOK").Caption =
+      "OK, and a caption far too long for this button, whatever its face";
   about.control("Label3").Caption = std::string(400, 'x');
   view.refresh();
   const auto unfit = view::unfitTexts(*view.window(about));
