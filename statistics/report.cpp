@@ -10,8 +10,6 @@ namespace tessaron {
 
 namespace {
 using namespace stats;
-// The foot of the printable page: a line that would pass it goes on the next.
-constexpr double kPageFoot = 15120;
 
 void Text(PrinterDevice& p, double x, double y, const std::string& text) {
   p.CurrentX = x;
@@ -19,10 +17,6 @@ void Text(PrinterDevice& p, double x, double y, const std::string& text) {
   p.Print({Value(text)});
 }
 
-// Runs on to the next page where the line would not fit.
-void KeepOnPage(PrinterDevice& p) {
-  if (p.CurrentY + Canvas::lineHeight(p.FontSize) > kPageFoot) p.NewPage();
-}
 }  // namespace
 
 void frmStatistics::PrintReport(bool fromGraph) {
@@ -98,64 +92,59 @@ void frmStatistics::PubPrintData() {
   p.FontSize = 12;
   p.ForeColor = kBlack;
   p.CurrentY = 10500;
-  // Each line starts on the next page when it would pass the foot of this one.
-  bool lineStart = true;
-  auto out = [&](std::initializer_list<PrintItem> items, bool lineEnd = true) {
-    if (lineStart) KeepOnPage(p);
-    p.Print(items, lineEnd);
-    lineStart = lineEnd;
-  };
 
   const bool blanks = S.DataCount < S.Aim[1];
-  if (blanks) out({Tab{58}, Value("INCLUDE BLANK ")});
-  out({Tab{20}, Value("Count : "), Tab{40}, Value(Format(Value(S.DataCount), kMaskCount))}, false);
-  if (blanks) out({Tab{66}, Value(S.Aim[1])}, false);
-  out({});
-  out({Tab{20}, Value(" Sum  : "), Tab{40}, Value(Format(Value(S.DataSum), kMaskData))});
-  out({Tab{20}, Value("Average : "), Tab{40}, Value(Format(Value(S.DataAvg), kMaskData))}, false);
-  if (blanks) out({Tab{66}, Value(Format(Value(S.AvgAll), kMaskData))}, false);
-  out({});
-  out({Tab{20}, Value("Deviation : "), Tab{40}, Value(Format(Value(S.DataDev), kMaskData))});
-  out({});
-  out({});
-  if (blanks) out({Tab{20}, Value("(not include blank data)")});
+  if (blanks) p.Print({Tab{58}, Value("INCLUDE BLANK ")});
+  p.Print({Tab{20}, Value("Count : "), Tab{40}, Value(Format(Value(S.DataCount), kMaskCount))},
+          false);
+  if (blanks) p.Print({Tab{66}, Value(S.Aim[1])}, false);
+  p.Print({});
+  p.Print({Tab{20}, Value(" Sum  : "), Tab{40}, Value(Format(Value(S.DataSum), kMaskData))});
+  p.Print({Tab{20}, Value("Average : "), Tab{40}, Value(Format(Value(S.DataAvg), kMaskData))},
+          false);
+  if (blanks) p.Print({Tab{66}, Value(Format(Value(S.AvgAll), kMaskData))}, false);
+  p.Print({});
+  p.Print({Tab{20}, Value("Deviation : "), Tab{40}, Value(Format(Value(S.DataDev), kMaskData))});
+  p.Print({});
+  p.Print({});
+  if (blanks) p.Print({Tab{20}, Value("(not include blank data)")});
 
   if (!control("txtAim", 2).Text.empty() || !control("txtAim", 3).Text.empty()) {
     const bool low = !S.AimText[2].empty(), high = !S.AimText[3].empty();
     // One row of the limits' table: its title, the low figure, the high one.
     auto row = [&](int tab, const char* title, const Value& left, const Value& right,
                    bool spaced = true) {
-      out({Tab{tab}, Value(title)}, false);
-      if (low) out({Tab{45}, left}, false);
-      if (high) out({Tab{65}, right}, false);
-      out({});
-      if (spaced) out({});
+      p.Print({Tab{tab}, Value(title)}, false);
+      if (low) p.Print({Tab{45}, left}, false);
+      if (high) p.Print({Tab{65}, right}, false);
+      p.Print({});
+      if (spaced) p.Print({});
     };
-    out({Tab{45}, Value("LOW"), Tab{65}, Value("HIGH")});
+    p.Print({Tab{45}, Value("LOW"), Tab{65}, Value("HIGH")});
     row(25, "Limit", Value(S.Aim[2]), Value(S.Aim[3]));
     row(20, "Over Limit", Value(S.OverLow), Value(S.OverHigh));
     row(20, "Over Limit (%)", Value(Format(Value(S.PctLow), "##0.#### %")),
         Value(Format(Value(S.PctHigh), "##0.#### %")));
-    out({});
+    p.Print({});
     row(15, "Statistically Over Limit : ", Value(Format(Value(S.StatLow), kMaskPct)),
         Value(Format(Value(S.StatHigh), kMaskPct)), false);
-    out({Tab{15}, Value("(as Standard Normal Distribution)")});
-    for (int i = 0; i < 3; ++i) out({});
+    p.Print({Tab{15}, Value("(as Standard Normal Distribution)")});
+    for (int i = 0; i < 3; ++i) p.Print({});
   }
 
   // Below the foot of the page: the list starts on the next one.
   p.CurrentX = 100;
   p.CurrentY = 17000;
-  for (int i = 0; i < 6; ++i) out({});
-  out({Tab{20}, Value(" Quantity              Data ")});
+  for (int i = 0; i < 6; ++i) p.Print({});
+  p.Print({Tab{20}, Value(" Quantity              Data ")});
   int first = 1;
   if (blanks) {
-    out({Tab{25}, Value(Format(Value(S.SortQty[1]), kMaskCount)), Tab{38}, Value("Blank")});
+    p.Print({Tab{25}, Value(Format(Value(S.SortQty[1]), kMaskCount)), Tab{38}, Value("Blank")});
     first = 2;
   }
   for (int i = first; i <= S.SortCount; ++i) {
-    out({Tab{25}, Value(Format(Value(S.SortQty[i]), kMaskCount)), Tab{40},
-         Value(Format(S.SortVal[i], kMaskData))});
+    p.Print({Tab{25}, Value(Format(Value(S.SortQty[i]), kMaskCount)), Tab{40},
+             Value(Format(S.SortVal[i], kMaskData))});
   }
 }
 
