@@ -91,7 +91,7 @@ void OviCalc::pubNewOri() {
   }
   pubEnableB();
   nMemLast = 0;
-  enable(cmdPaste, true);
+  enable(cmdPasteC, true);
   enable(cmdDeciC, true);
 }
 
@@ -164,7 +164,9 @@ void OviCalc::PubReadComma() {
 
 void OviCalc::PubZeroRead() {
   pubNewT();
-  PubShow(*Readout, HistValue[EqnIdx]);
+  // With the panel open the bar stands on a function slot, whose list
+  // starts from the display it was keyed on.
+  PubShow(*Readout, EqnOpen ? EqnFirst[EqnIdx] : HistValue[EqnIdx]);
 }
 
 void OviCalc::PubLast() {
@@ -180,12 +182,19 @@ void OviCalc::PubLast() {
 }
 
 void OviCalc::PubIniOrder() {
-  HistValue[0] = lastKey() == 22 ? Value(0) : Value(displayValue());
+  const Value first = lastKey() == 22 ? Value(0) : Value(displayValue());
   KeyOrder[0] = 32;
   KeyOrder[1] = bDegree ? 41 : 42;
   KeyOrder[2] = 99;
   KeyCount = 3;
-  if (EqnOpen && loud()) KeyLog = true;
+  if (EqnOpen) {
+    EqnFirst[EqnIdx] = first;
+    TValue = Value(EqnTable[EqnIdx][25]);
+    EqnTable[EqnIdx][28] = CalcStage;
+    if (loud()) KeyLog = true;
+  } else {
+    HistValue[0] = first;
+  }
 }
 
 }  // namespace tessaron
