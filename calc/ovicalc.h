@@ -92,6 +92,8 @@ class OviCalc : public Form, public CalcState, public EngineState {
   void cmdTcalcu();
   void cmdGoCalc();
   void pubCOCAcola();
+  // One evaluation of the slot in hand at t: replay and read the display.
+  double evalAt(double t);
   void pubFunkWrite();
   void ScrFormPanel(int row);
   void pubDemoCode(int code);
@@ -179,8 +181,6 @@ class OviCalc : public Form, public CalcState, public EngineState {
   void pubTValueSet();
   void panelKeys(bool open);
   void solveKeys();
-  // One evaluation of the slot in hand at t: replay and read the display.
-  double evalAt(double t);
   double readF() const { return displayValue(); }
   bool domainActive() const { return DomainTab[0] > 1; }
   void replayRange(int col, int from, int to);

@@ -387,7 +387,10 @@ void OviCalc::pubMaxMin() {
       AnsF = 0;
     } else {
       if (std::fabs(a - b) < 0.01 && std::fabs(fm / (a - b)) > 1000) return;
-      if (std::fabs((a - b) / (a + b)) < 1e-10) {
+      // Closed at 10 digits, or to 1/10^10 about zero, where a relative
+      // width never closes; an extreme that stays off zero is no root.
+      if (std::fabs(a - b) < 1e-10 * std::max(1.0, std::fabs(a + b))) {
+        if (!(std::fabs(fm) < Margin.number())) return;
         AnsT = RoundX(10, m);
         AnsF = 0;
         AnswerCode += 500.7f;
@@ -407,11 +410,13 @@ void OviCalc::pubMaxMin() {
           FNext = fb;
           AnswerCode = -22.24f;
           pubSolveCross();
+        } else if (std::fabs(fm - fa) > std::fabs(fb - fm)) {
+          // The side that moves takes its value along, so that the pair
+          // keeps the extreme between them.
+          a = m;
+          fa = fm;
         } else {
-          if (std::fabs(fm - fa) > std::fabs(fb - fm))
-            a = m;
-          else
-            b = m;
+          b = m;
           fb = fm;
         }
       }
