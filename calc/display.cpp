@@ -29,7 +29,16 @@ double readNumber(const std::string& text) {
 }
 }  // namespace
 
-double OviCalc::displayValue() const { return readNumber(Readout->Caption); }
+// Every key reads the display, and most read what the key before wrote: the
+// last text read is kept with its value.
+double OviCalc::displayValue() const {
+  const std::string& text = Readout->Caption;
+  if (text != shownText_) {
+    shownValue_ = readNumber(text);
+    shownText_ = text;
+  }
+  return shownValue_;
+}
 double OviCalc::readNumberOf(const std::string& text) { return readNumber(text); }
 
 void OviCalc::warn(std::string_view text) {

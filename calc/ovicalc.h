@@ -230,6 +230,9 @@ class OviCalc : public Form, public CalcState, public EngineState {
   // Presses a key whose routine another part of the calculator registers.
   void pressKey(Control* c);
 
+  // The display's text last read, and its value.
+  mutable std::string shownText_ = "\x01";
+  mutable double shownValue_ = 0;
   // Controls the keys touch, found once.
   Control *Readout{}, *lblFormula{}, *lblRead2{}, *txtKwal{}, *cmdDeciC{}, *SignC{}, *cmdExpC{},
       *cmdDeleteC{}, *cmdBackC{}, *CancelEntryC{}, *CancelC{}, *cmdOpenPC{}, *cmdClosePC{},

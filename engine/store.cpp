@@ -319,6 +319,7 @@ void OviCalc::pubTValueSet() {
   col[26] = f;
   if (EqnIdx < kDemoSlot) {
     const double tv = TValue.number();
+    float found = 0;
     if (f == 0) {
       FormulaSave = FormulaText;
       AnswerCode = 1.0f;
@@ -327,6 +328,7 @@ void OviCalc::pubTValueSet() {
       SilentNote = true;
       CalcStage = 5;
       PubSolveFin();
+      found = AnswerCode;
       PubAnswerWrite();
       pubAnswerCount();
     } else if (std::fabs(f) < Tiny.number()) {
@@ -338,6 +340,7 @@ void OviCalc::pubTValueSet() {
       CalcStage = 5;
       pubSolveDetail();
       if (AnsF != 0) PubSolveFin();
+      found = AnswerCode;
       if (AnswerCode > 0 && AnswerCode < 990) {
         PubAnswerWrite();
         pubAnswerCount();
@@ -351,6 +354,7 @@ void OviCalc::pubTValueSet() {
       CalcStage = 5;
       PubDomainCk();
       pubSolveCross();
+      found = AnswerCode;
       if (AnswerCode > 0.5f && AnswerCode < 990) {
         PubSolveFin();
         PubAnswerWrite();
@@ -359,7 +363,9 @@ void OviCalc::pubTValueSet() {
     }
     CalcStage = 4;
     pubFunkWrite();
-    if ((AnswerCode <= 0.5f || AnswerCode >= 990) && !SilentNote) lblFormula->Caption = FormulaSave;
+    // The line goes back to the formula when no answer came; the filing of
+    // an answer clears the code, so the code is read as it came.
+    if ((found <= 0.5f || found >= 990) && !SilentNote) lblFormula->Caption = FormulaSave;
     AnswerCode = 0;
     AnsCount = 0;
   }
