@@ -92,6 +92,8 @@ void OviCalc::pubAnswerCount() {
     }
   }
   disp() = shown;
+  // The strip shows the memories in the face their length needs.
+  scrMemChange();
   AnswerCode = 0;
 }
 

@@ -57,8 +57,6 @@ struct EngineState {
   std::array<double, 34> AnsList{};
   bool DupFlag = false;
 
-  // Where the Print key stands while the panel is closed.
-  int cmdPrintHome = 0;
   // Replays since the form was loaded: what a solve costs.
   long long EvalCount = 0;
 };

@@ -96,8 +96,6 @@ void OviCalc::cmdT() {
 void OviCalc::panelKeys(bool open) {
   for (Control* k : {cmdOctal, cmdFract, PercentC}) k->Visible = !open;
   cmdRaDeg->Enabled = !open;
-  // The Print key moves up beside the panel and back.
-  cmdPrintC->Top = open ? ScrForm->Top + ScrForm->Height + 60 : cmdPrintHome;
 }
 
 void OviCalc::cmdTeqn() {
@@ -105,7 +103,8 @@ void OviCalc::cmdTeqn() {
     Cancel();
     EqnOpen = true;
     cmdTeqnC->Caption = "Close Eqn ";
-    cmdTeqnC->FontSize = 12;
+    // The longer caption takes a smaller face to fit the key.
+    cmdTeqnC->FontSize = 8;
     cmdTeqnC->FontBold = true;
     frmEquation->Visible = true;
     cmdTC->Visible = true;
@@ -457,7 +456,6 @@ void OviCalc::pubDemoCode(int code) { (void)code; }
 void OviCalc::engineLoad() {
   for (auto& col : EqnTable) col[25] = TValue.number();
   PasteList.fill(kFree);
-  cmdPrintHome = cmdPrintC->Top;
 }
 
 }  // namespace tessaron

@@ -97,14 +97,14 @@ for mode in ("Deg", "Rad"):
         m = random.choice([1, 2, 3])
         kind = j % 4
         if kind == 0:
-            keys, f = f"( T X {m} ) sin - {num(c)}", (lambda x, c=c, m=m: np.sin(m * x * to) - c)
+            keys, f = f"( T X {m} ) sin - {num(c)}", (lambda x, c=c, m=m, to=to: np.sin(m * x * to) - c)
         elif kind == 1:
-            keys, f = f"( T X {m} ) cos + {num(c)}", (lambda x, c=c, m=m: np.cos(m * x * to) + c)
+            keys, f = f"( T X {m} ) cos + {num(c)}", (lambda x, c=c, m=m, to=to: np.cos(m * x * to) + c)
         elif kind == 2:
-            keys, f = f"T tan - {num(3 * c)}", (lambda x, c=c: np.tan(x * to) - 3 * c)
+            keys, f = f"T tan - {num(3 * c)}", (lambda x, c=c, to=to: np.tan(x * to) - 3 * c)
         else:
             keys, f = f"T cos X {m} - T X {num(c)}", (
-                lambda x, c=c, m=m: np.cos(x * to) * m - x * c)
+                lambda x, c=c, m=m, to=to: np.cos(x * to) * m - x * c)
         rows.append((mode, 1 if kind != 2 else 0.5, keys, f))
 
 # Exponentials and logarithms.
