@@ -53,6 +53,7 @@ void OviCalc::cmdTsolve() {
   InputT = InputForm = ErrFlag = false;
   AnswerCode = 0;
   AnsCount = 0;
+  WalkReach.fill(TValue.number());
   PubDomainCk();
   if (domainActive())
     pubSolveDomain();
@@ -103,6 +104,7 @@ void OviCalc::pubSolveUpDown() {
     SkipCount = 0;
     CrossTries = PlateauTries = 0;
     pubDoWhile();
+    WalkReach[StepBase > 0 ? 0 : 1] = TPrev;
   }
 }
 
@@ -135,6 +137,7 @@ void OviCalc::pubSolveDomain() {
     SkipCount = 0;
     CrossTries = PlateauTries = 0;
     pubDoWhile();
+    WalkReach[StepBase > 0 ? 0 : 1] = TPrev;
   }
 }
 

@@ -50,6 +50,9 @@ struct EngineState {
   int SkipFlag = 0;
   int CrossSteps = 0;  // rounds of the last bisection, kept as its record
   float AnswerCode = 0;
+  // How far the last solve walked upward and downward before a cap or its
+  // answers ended the pass.
+  std::array<double, 2> WalkReach{};
   double AnsT = 0, AnsF = 0;
 
   // The answers of one solve.

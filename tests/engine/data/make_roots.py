@@ -114,11 +114,13 @@ for j in range(24):
     if kind == 0:
         keys, f = f"T e^x - {num(c)}", (lambda x, c=c: np.exp(x) - c)
     elif kind == 1:
-        keys, f = f"T ln - {num(c / 4)}", (lambda x, c=c: np.log(x) - c / 4)
+        q = round(c / 4, 2)
+        keys, f = f"T ln - {num(q)}", (lambda x, q=q: np.log(x) - q)
     elif kind == 2:
         keys, f = f"T log + T - {num(c)}", (lambda x, c=c: np.log10(x) + x - c)
     elif kind == 3:
-        keys, f = f"( 0 - T ) e^x - T + {num(c / 9)}", (lambda x, c=c: np.exp(-x) - x + c / 9)
+        q = round(c / 9, 2)
+        keys, f = f"( 0 - T ) e^x - T + {num(q)}", (lambda x, q=q: np.exp(-x) - x + q)
     elif kind == 4:
         keys, f = f"T e^x X T - {num(c)}", (lambda x, c=c: np.exp(x) * x - c)
     else:
