@@ -167,7 +167,10 @@ void OviCalc::PubReadout(const Value& value) {
 }
 
 void OviCalc::PubReadComma() {
-  const double a = std::fabs(Val(disp()));
+  // Val stops at a comma; a text without one reads as the display does.
+  const std::string& t = disp();
+  const double a =
+      std::fabs(t.find(',') == std::string::npos && !t.empty() ? displayValue() : Val(t));
   if (a >= 1000 && a < 1e15) disp() = Format(Value(displayValue()), "###,##0.####################");
 }
 
