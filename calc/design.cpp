@@ -315,6 +315,7 @@ OviCalc::OviCalc(Application& app)
            table()) {
   bindControls();
   routes();
+  engineRoutes();
 }
 
 void OviCalc::bindControls() {
@@ -337,10 +338,10 @@ void OviCalc::bindControls() {
   cmdFract = c("cmdFract");
   cmdOctal = c("cmdOctal");
   nFac = c("nFac");
-  cmdPaste = c("cmdPaste");
-  cmdT = c("cmdT");
-  cmdTform = c("cmdTform");
-  cmdTvalue = c("cmdTvalue");
+  cmdPasteC = c("cmdPaste");
+  cmdTC = c("cmdT");
+  cmdTformC = c("cmdTform");
+  cmdTvalueC = c("cmdTvalue");
   cmdArc = c("cmdArc");
   cmdHyp = c("cmdHyp");
   cmdDegC = c("cmdDeg");
@@ -451,10 +452,11 @@ void OviCalc::Load() {
   for (Control* k : {cmdDeleteC, CancelEntryC, cmdExpC, cmdOctal, nFac, OperatorC[5], OperatorC[6]})
     k->Enabled = true;
   TValue = Value(1);
-  cmdTvalue->Caption = " T=" + CStr(TValue);
-  cmdT->Visible = false;
+  cmdTvalueC->Caption = " T=" + CStr(TValue);
+  cmdTC->Visible = false;
   frmEquation->Visible = false;
 
+  engineLoad();
   Cancel();
   ErrFlag = false;
   nMemLast = 0;

@@ -29,7 +29,16 @@ double readNumber(const std::string& text) {
 }
 }  // namespace
 
-double OviCalc::displayValue() const { return readNumber(Readout->Caption); }
+// Every key reads the display, and most read what the key before wrote: the
+// last text read is kept with its value.
+double OviCalc::displayValue() const {
+  const std::string& text = Readout->Caption;
+  if (text != shownText_) {
+    shownValue_ = readNumber(text);
+    shownText_ = text;
+  }
+  return shownValue_;
+}
 double OviCalc::readNumberOf(const std::string& text) { return readNumber(text); }
 
 void OviCalc::warn(std::string_view text) {
@@ -91,7 +100,7 @@ void OviCalc::pubNewOri() {
   }
   pubEnableB();
   nMemLast = 0;
-  enable(cmdPaste, true);
+  enable(cmdPasteC, true);
   enable(cmdDeciC, true);
 }
 
@@ -158,13 +167,18 @@ void OviCalc::PubReadout(const Value& value) {
 }
 
 void OviCalc::PubReadComma() {
-  const double a = std::fabs(Val(disp()));
+  // Val stops at a comma; a text without one reads as the display does.
+  const std::string& t = disp();
+  const double a =
+      std::fabs(t.find(',') == std::string::npos && !t.empty() ? displayValue() : Val(t));
   if (a >= 1000 && a < 1e15) disp() = Format(Value(displayValue()), "###,##0.####################");
 }
 
 void OviCalc::PubZeroRead() {
   pubNewT();
-  PubShow(*Readout, HistValue[EqnIdx]);
+  // With the panel open the bar stands on a function slot, whose list
+  // starts from the display it was keyed on.
+  PubShow(*Readout, EqnOpen ? EqnFirst[EqnIdx] : HistValue[EqnIdx]);
 }
 
 void OviCalc::PubLast() {
@@ -180,12 +194,19 @@ void OviCalc::PubLast() {
 }
 
 void OviCalc::PubIniOrder() {
-  HistValue[0] = lastKey() == 22 ? Value(0) : Value(displayValue());
+  const Value first = lastKey() == 22 ? Value(0) : Value(displayValue());
   KeyOrder[0] = 32;
   KeyOrder[1] = bDegree ? 41 : 42;
   KeyOrder[2] = 99;
   KeyCount = 3;
-  if (EqnOpen && loud()) KeyLog = true;
+  if (EqnOpen) {
+    EqnFirst[EqnIdx] = first;
+    TValue = Value(EqnTable[EqnIdx][25]);
+    EqnTable[EqnIdx][28] = CalcStage;
+    if (loud()) KeyLog = true;
+  } else {
+    HistValue[0] = first;
+  }
 }
 
 }  // namespace tessaron

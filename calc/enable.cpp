@@ -65,11 +65,11 @@ void OviCalc::pubEnableA() {
   cmdDeciC->Enabled = !bDecimal;
   SignC->Enabled = true;
   PipiC->Enabled = !bDecimal;
-  if (bDecimal) cmdPaste->Enabled = false;
+  if (bDecimal) cmdPasteC->Enabled = false;
   for (int i = 1; i <= 4; ++i) MMMout[i]->Enabled = bHoldKeys;
   cmdOpenPC->Enabled = false;
-  cmdT->Enabled = false;
-  cmdT->BackColor = kTPale;
+  cmdTC->Enabled = false;
+  cmdTC->BackColor = kTPale;
   if (!EqnOpen) {
     valueKeys(*this, cmdFract, cmdOctal, nFac, OperatorC[5], OperatorC[6], true, bExp, disp());
     lblRead2->Visible = false;
@@ -87,12 +87,12 @@ void OviCalc::pubEnableB() {
   cmdDeciC->Enabled = true;
   SignC->Enabled = true;
   PipiC->Enabled = true;
-  cmdPaste->Enabled = true;
+  cmdPasteC->Enabled = true;
   for (int i = 1; i <= 4; ++i) MMMout[i]->Enabled = true;
   cmdOpenPC->Enabled = true;
   if (CalcStage == 3) {
-    cmdT->Enabled = true;
-    cmdT->BackColor = kTLit;
+    cmdTC->Enabled = true;
+    cmdTC->BackColor = kTLit;
   }
   if (!EqnOpen) {
     valueKeys(*this, cmdFract, cmdOctal, nFac, OperatorC[5], OperatorC[6], false, bExp, disp());
@@ -112,11 +112,11 @@ void OviCalc::pubEnableD() {
   cmdDeciC->Enabled = false;
   SignC->Enabled = true;
   PipiC->Enabled = false;
-  cmdPaste->Enabled = false;
+  cmdPasteC->Enabled = false;
   for (int i = 1; i <= 4; ++i) MMMout[i]->Enabled = bHoldKeys;
   cmdOpenPC->Enabled = false;
-  cmdT->Enabled = false;
-  cmdT->BackColor = kTPale;
+  cmdTC->Enabled = false;
+  cmdTC->BackColor = kTPale;
   if (!EqnOpen) {
     valueKeys(*this, cmdFract, cmdOctal, nFac, OperatorC[5], OperatorC[6], false, bExp, disp());
     lblRead2->Visible = false;

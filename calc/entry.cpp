@@ -61,7 +61,8 @@ void OviCalc::numberViews(bool fraction) {
 void OviCalc::Number(int Index) {
   if (EqnIdx > 0 && !EqnOpen) scrFormToZero();
   PubSettingB();
-  if (CalcStage != 5 && KeyCount == 3) {
+  // A silent replay, by the solver or by Calc, keeps its digits together.
+  if (CalcStage < 5 && KeyCount == 3) {
     disp() = "0";
     PubIniOrder();
   }
@@ -121,8 +122,8 @@ void OviCalc::Number(int Index) {
   frameSlide->Visible = false;
   cmdOpenPC->Enabled = !bExp;
   if (CalcStage == 3) {
-    cmdT->Enabled = true;
-    cmdT->BackColor = 0x80FF;
+    cmdTC->Enabled = true;
+    cmdTC->BackColor = 0x80FF;
   }
 }
 
@@ -305,6 +306,7 @@ void OviCalc::Cancel() {
   std::string trimmed = FormulaText;
   while (!trimmed.empty() && trimmed.back() == ' ') trimmed.pop_back();
   if (FormulaText.size() > 5 && !EqnOpen && !endsWith(trimmed, "=")) pubHistSave();
+  if (CalcStage > 4) CrossSteps = 0;
   if (loud()) scrFormToZero();
   if (loud()) greyPrefixes();
   pubNew();
@@ -319,12 +321,15 @@ void OviCalc::Cancel() {
     show(frmEquation, false);
     show(cmdRaDeg, true);
   } else {
-    enable(cmdT, false);
+    TValue = Value(EqnTable[EqnIdx][25]);
+    if (loud()) cmdTvalueC->Caption = " T=" + tessaron::Left(Value(CStr(TValue)), 7);
+    enable(cmdTC, false);
     show(frameSlide, false);
     show(cmdOctal, false);
     show(cmdFract, false);
     for (Control* k : {nFac, OperatorC[5], OperatorC[6]}) enable(k, false);
-    enable(cmdGraph, true);
+    // The bar may walk the slots again after a T was keyed.
+    enable(ScrForm, true);
   }
   InputForm = InputT = false;
   for (int i = 1; i <= 4; ++i) {
@@ -332,10 +337,10 @@ void OviCalc::Cancel() {
     enable(MMMsub[i], true);
   }
   if (loud()) {
-    cmdTform->BackColor = 0x80CCFF;
-    cmdTvalue->BackColor = 0x80CCFF;
+    cmdTformC->BackColor = 0x80CCFF;
+    cmdTvalueC->BackColor = 0x80CCFF;
   }
-  enable(cmdTvalue, true);
+  enable(cmdTvalueC, true);
   enable(cmdBackC, false);
   KeyCount = 3;
   if (loud()) {
@@ -343,7 +348,7 @@ void OviCalc::Cancel() {
     PubIniOrder();
   }
   ErrFlag = true;
-  enable(cmdPaste, true);
+  enable(cmdPasteC, true);
   enable(cmdDeciC, true);
   if (Width < 9999) Width = 11640;
   bCancelling = cancelling;

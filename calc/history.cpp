@@ -49,7 +49,7 @@ void OviCalc::ScrFormChange() {
   const int row = ScrForm->value().AsInt16();
   // With the equation panel open the bar walks the stored functions.
   if (EqnOpen) {
-    EqnIdx = row;
+    ScrFormPanel(row);
     return;
   }
   CalcStage = 0;
@@ -61,7 +61,7 @@ void OviCalc::ScrFormChange() {
   frameSlide->Visible = false;
   lblRead2->Visible = false;
   KeyLog = InputT = InputForm = false;
-  for (Control* key : {cmdTvalue, cmdTform, cmdT}) key->BackColor = kTPale;
+  for (Control* key : {cmdTvalueC, cmdTformC, cmdTC}) key->BackColor = kTPale;
   if (EqnIdx > 0) {
     lblFormula->Caption = HistText[EqnIdx];
     return;

@@ -44,7 +44,7 @@ void OviCalc::Form_KeyPress(int& KeyAscii) {
   } else if (k == 3) {
     pressKey(&control("cmdCopy"));
   } else if (k == 22) {
-    pressKey(cmdPaste);
+    pressKey(cmdPasteC);
   }
   if (unloading()) return;
   Control* plus = OperatorC[0];

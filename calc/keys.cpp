@@ -30,6 +30,7 @@ constexpr std::array<Routine, kCodes> makeTable() {
   t[18] = plain<&OviCalc::cmdOpenP>;
   t[19] = plain<&OviCalc::cmdCloseP>;
   for (int op = 20; op <= 31; ++op) t[op] = [](OviCalc& f, int code) { f.Operator(code - 20); };
+  t[33] = plain<&OviCalc::cmdT>;
   t[34] = plain<&OviCalc::Ttan>;
   t[35] = plain<&OviCalc::Ccos>;
   t[36] = plain<&OviCalc::SSin>;
@@ -61,6 +62,10 @@ constexpr std::array<Routine, kCodes> makeTable() {
   t[97] = plain<&OviCalc::cmdHypKey>;
   t[98] = plain<&OviCalc::cmdArcKey>;
   t[99] = plain<&OviCalc::PubZeroRead>;
+  // A constant pasted while a function was keyed: its slot in PasteList.
+  for (int p = 100; p <= 134; ++p) t[p] = [](OviCalc& f, int code) { f.pubPasteXY(code - 100); };
+  // The demos' functions, each on the display's text.
+  for (int d = 137; d <= 145; ++d) t[d] = [](OviCalc& f, int code) { f.pubDemoCode(code); };
   return t;
 }
 

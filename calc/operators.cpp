@@ -116,6 +116,13 @@ void OviCalc::Operator(int Index) {
     scrFormToZero();
     PubShow(*Readout, kept);
     PubIniOrder();
+  } else if (EqnIdx > 0 && EqnOpen && loud() && CalcStage != 3 && !InputForm && !InputT &&
+             KeyCount < 4) {
+    // An operator on a function slot continues from the function's value.
+    const Value kept(EqnTable[EqnIdx][26]);
+    scrFormToZero();
+    PubShow(*Readout, kept);
+    PubIniOrder();
   }
   // Percent's narrowing outlives the operators: it is a basic calculator
   // until Cancel or Back, so only a form of full width is set here.
@@ -123,6 +130,7 @@ void OviCalc::Operator(int Index) {
   logKey(20 + Index);
   if (Index == 2) {
     enable(cmdBackC, false);
+    if (CalcStage == 3 && InputForm && EqnOpen) pubCaptureCheck();
   } else {
     PubSetting();
   }
@@ -232,7 +240,10 @@ void OviCalc::Operator(int Index) {
   // After an operator the next operand is a fresh entry, whatever stood
   // before it: digits, Pi and the memory recalls are open again.
   if (!ErrFlag && loud()) {
+    // "=" never takes CE away: "2 + 3 = CE 4 =" shows 4.
+    const bool entryKey = CancelEntryC->Enabled;
     pubEnableB();
+    if (Index == 2) CancelEntryC->Enabled = entryKey;
     if (Index >= 5) enableFunctions(false);
   }
 
@@ -240,6 +251,8 @@ void OviCalc::Operator(int Index) {
       !ErrFlag && !InputForm && !InputT)
     pubHistSave();
   if (Index != 2) enable(CancelEntryC, true);
+  // A function keyed or a new T ends here: it is stored or tried.
+  if (Index == 2 && loud()) pubEqualEngine();
 
   if ((Index == 5 || Index == 6) && !ErrFlag) {
     const double v = displayValue();
@@ -260,7 +273,8 @@ void OviCalc::Operator(int Index) {
       refuse(" x>0,  x<>1   Sorry, Not Available !! ");
     }
   }
-  if (EqnOpen || CalcStage == 3) {
+  // The list closes at "=" only: a function's keys outlive its operators.
+  if (Index == 2 && (EqnOpen || CalcStage == 3)) {
     PubIniOrder();
     if (loud()) KeyLog = true;
   }

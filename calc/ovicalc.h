@@ -7,11 +7,12 @@
 #include <string_view>
 
 #include "calc/state.h"
+#include "engine/state.h"
 #include "surface/form.h"
 
 namespace tessaron {
 
-class OviCalc : public Form, public CalcState {
+class OviCalc : public Form, public CalcState, public EngineState {
  public:
   explicit OviCalc(Application& app);
   void Load() override;
@@ -83,6 +84,51 @@ class OviCalc : public Form, public CalcState {
   // One recorded key code, pressed again.
   void pubCola(int code);
 
+  // The function engine: capture, replay and the slots.
+  void cmdT();
+  void cmdTeqn();
+  void cmdTform();
+  void cmdTvalue();
+  void cmdTcalcu();
+  void cmdGoCalc();
+  void pubCOCAcola();
+  // One evaluation of the slot in hand at t: replay and read the display.
+  double evalAt(double t);
+  void pubFunkWrite();
+  void ScrFormPanel(int row);
+  void pubDemoCode(int code);
+
+  // The limits of T read from the key list.
+  void PubDomainCk();
+  void PubDomainCk1();
+  void PubDomainCk3();
+  void PubDomainTrig();
+  void PubDomainTrig3();
+  void pubDomainFront();
+  void pubDomainRear();
+
+  // The root finder and its answers.
+  void cmdTsolve();
+  void pubSolveUpDown();
+  void pubSolveDomain();
+  void pubDoWhile();
+  void pubSolveCross();
+  void pubMaxMin();
+  void PubMode();
+  void pubDoWhile22();
+  void pubSolveDetail();
+  void PubSolveFin();
+  void PubSolveRound();
+  void PubAnswerWrite();
+  void pubAnswerCount();
+
+  // The clipboard and the printout.
+  void cmdCopy();
+  void cmdPaste();
+  void cmdPasteX();
+  void pubPasteXY(int slot);
+  void cmdPrint();
+
   // Resets and shared acts of the keys.
   void pubNewOri();
   void pubNew();
@@ -125,6 +171,22 @@ class OviCalc : public Form, public CalcState {
  private:
   void design();
   void routes();
+  void engineRoutes();
+  void engineLoad();
+  // The engine's ends of "=": the capture's check before the result and the
+  // store or the new T after it.
+  void pubCaptureCheck();
+  void pubEqualEngine();
+  void pubEqnStore();
+  void pubTValueSet();
+  void panelKeys(bool open);
+  void solveKeys();
+  double readF() const { return displayValue(); }
+  bool domainActive() const { return DomainTab[0] > 1; }
+  void replayRange(int col, int from, int to);
+  void replayFrom(int col, int from, int to, double t);
+  void walkRefine(bool plateau);
+  void tValueCaption();
   void bindControls();
 
   // The silent rule: from stage 5 on no box, no enabling, no transcript.
@@ -168,13 +230,17 @@ class OviCalc : public Form, public CalcState {
   // Presses a key whose routine another part of the calculator registers.
   void pressKey(Control* c);
 
+  // The display's text last read, and its value.
+  mutable std::string shownText_ = "\x01";
+  mutable double shownValue_ = 0;
   // Controls the keys touch, found once.
   Control *Readout{}, *lblFormula{}, *lblRead2{}, *txtKwal{}, *cmdDeciC{}, *SignC{}, *cmdExpC{},
       *cmdDeleteC{}, *cmdBackC{}, *CancelEntryC{}, *CancelC{}, *cmdOpenPC{}, *cmdClosePC{},
-      *PercentC{}, *PipiC{}, *cmdFract{}, *cmdOctal{}, *nFac{}, *cmdPaste{}, *cmdT{}, *cmdTform{},
-      *cmdTvalue{}, *cmdArc{}, *cmdHyp{}, *cmdDegC{}, *cmdRadC{}, *frameRD{}, *frameSlide{},
-      *frameAssist{}, *frmEquation{}, *cmdRaDeg{}, *cmdGraph{}, *ScrForm{}, *picGraph{}, *scrMem{},
-      *imgSlide{}, *imgLine{};
+      *PercentC{}, *PipiC{}, *cmdFract{}, *cmdOctal{}, *nFac{}, *cmdPasteC{}, *cmdTC{},
+      *cmdTformC{}, *cmdTvalueC{}, *cmdTsolveC{}, *cmdTcalcuC{}, *cmdTeqnC{}, *cmdAssist{},
+      *cmdPrintC{}, *cmdCopyC{}, *cmdPasteXC{}, *cmdGoCalcC{}, *txtCopy{}, *cmdArc{}, *cmdHyp{},
+      *cmdDegC{}, *cmdRadC{}, *frameRD{}, *frameSlide{}, *frameAssist{}, *frmEquation{},
+      *cmdRaDeg{}, *cmdGraph{}, *ScrForm{}, *picGraph{}, *scrMem{}, *imgSlide{}, *imgLine{};
   std::array<Control*, 10> NumberC{};
   std::array<Control*, 12> OperatorC{};
   std::array<Control*, 5> MMMin{}, MMMout{}, MMMsub{};

@@ -21,17 +21,20 @@ void OviCalc::PubFormula(const Value& value) {
   if (CalcStage == 3) {
     // A T, a memory, or a sign or prefix before them: the transcript names
     // the variable instead of its value.
-    const int last = lastKey();
+    // The key that calls for the transcript is recorded already: the value
+    // it writes came from the key before it.
+    const int top = KeyCount - 2;
+    const int last = top >= 0 ? KeyOrder[top] : 99;
     const bool named =
         last == 12 || last == 33 || (last >= 61 && last <= 94) || (last >= 40 && last <= 44);
     if (named) {
-      int i = KeyCount - 1;
+      int i = top;
       bool minus = false;
       while (i > 2 && (KeyOrder[i] == 12 || (KeyOrder[i] >= 40 && KeyOrder[i] <= 44))) {
         if (KeyOrder[i] == 12) minus = !minus;
         --i;
       }
-      if (i > 2 && i + 1 < KeyCount && KeyOrder[i + 1] == 12) minus = true;
+      if (i > 2 && i + 1 <= top && KeyOrder[i + 1] == 12) minus = true;
       const int code = KeyOrder[i];
       if (code == 33)
         FormulaText += minus ? " -T" : " T";
