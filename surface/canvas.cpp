@@ -4,7 +4,7 @@
 
 namespace tessaron {
 
-double Canvas::columnWidth(double fontSize) { return fontSize * 12; }
+double Canvas::columnWidth(double fontSize) { return fontSize * 10; }
 double Canvas::lineHeight(double fontSize) { return fontSize * 24; }
 
 std::string Canvas::itemText(const Value& v) {

@@ -60,7 +60,9 @@ class Canvas {
     extentH_ = height;
   }
   // Width of one character column and height of one line at a font size,
-  // in twips: the column grid that `Tab(n)` counts in.
+  // in twips: the column grid that `Tab(n)` counts in. A column is the
+  // face's average character, half an em, as the printouts' columns were
+  // laid out for.
   static double columnWidth(double fontSize);
   static double lineHeight(double fontSize);
   // The text a number item is printed as: a blank before a non-negative
