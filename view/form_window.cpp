@@ -272,7 +272,8 @@ void FormWindow::key(Item* item, QKeyEvent* event) {
     return;
   }
   const int code = keyCode(*event);
-  const int ascii = keyAscii(*event);
+  // The model's key down types the character of Enter, Backspace and Escape.
+  const int ascii = code != 0 && Application::keyTypes(code) ? 0 : keyAscii(*event);
   const int shift = shiftState(event->modifiers());
   if (code != 0) {
     if (control)

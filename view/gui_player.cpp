@@ -324,6 +324,7 @@ class GuiPlayer : public Player {
 
   // A character key alone: the key under it is not told.
   static void character(QWidget* target, int keyAscii) {
+    if (keyAscii < 0 || keyAscii > 0x10FFFF) return;  // no key types it
     const QString text = QString::fromUcs4(reinterpret_cast<const char32_t*>(&keyAscii), 1);
     QKeyEvent down(QEvent::KeyPress, 0, Qt::NoModifier, text);
     QCoreApplication::sendEvent(target, &down);
