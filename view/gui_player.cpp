@@ -108,7 +108,10 @@ class GuiPlayer : public Player {
 
   void dblclick(Control& control) override {
     QWidget* w = widget(control);
-    if (!w || control.kind() == ControlKind::FlexGrid || control.kind() == ControlKind::Timer) {
+    // As with a click, a double click on a bar or a grid presses no part of it.
+    const ControlKind k = control.kind();
+    if (!w || k == ControlKind::FlexGrid || k == ControlKind::Timer || k == ControlKind::Line ||
+        k == ControlKind::HScrollBar || k == ControlKind::VScrollBar) {
       app_.dblclick(control);
       settle();
       return;
