@@ -4,8 +4,8 @@
 // form's own invariants hold. With --diff every action also goes through the
 // real widgets, and the two outputs must agree line by line.
 //
-//   tessaron-fuzz [--seed N] [--events N] [--session N] [--slow-ms N]
-//                 [--hang-s N] [--diff] [--out DIR]
+//   tessaron-fuzz [--seed N] [--events N] [--seconds N] [--session N]
+//                 [--slow-ms N] [--hang-s N] [--diff] [--out DIR]
 //
 // A finding is written as a script, DIR/fuzz-SEED-SESSION.tsc, that
 // tessaron-script replays. Exit status: 0 nothing found, 1 findings.
@@ -50,6 +50,7 @@ struct Options {
   int session = 400;
   long slowMs = 3000;
   long hangS = 30;
+  long seconds = 0;  // stop after this long, 0 for no limit
   bool diff = false;
   std::string out = ".";
 };
@@ -123,6 +124,7 @@ bool parse(int argc, char** argv, Options& o) {
         : a == "--session" ? value(o.session)
         : a == "--slow-ms" ? value(o.slowMs)
         : a == "--hang-s"  ? value(o.hangS)
+        : a == "--seconds" ? value(o.seconds)
                            : false)
       continue;
     if (a == "--diff") {
@@ -130,7 +132,8 @@ bool parse(int argc, char** argv, Options& o) {
     } else if (a == "--out" && i + 1 < argc) {
       o.out = argv[++i];
     } else {
-      std::cerr << "usage: tessaron-fuzz [--seed N] [--events N] [--session N] [--slow-ms N]"
+      std::cerr << "usage: tessaron-fuzz [--seed N] [--events N] [--seconds N] [--session N]"
+                   " [--slow-ms N]"
                    " [--hang-s N] [--diff] [--out DIR]\n";
       return false;
     }
@@ -184,7 +187,8 @@ int main(int argc, char** argv) {
   int64_t slowest = 0;
   std::string slowestLine;
   const auto start = Clock::now();
-  while (events < o.events) {
+  const auto limit = start + std::chrono::seconds(o.seconds);
+  while (events < o.events && (o.seconds == 0 || Clock::now() < limit)) {
     const uint64_t session = sessions++;
     fuzz::Generator gen(o.seed * 1000003 + session);
     Lane model(false);
@@ -204,7 +208,10 @@ int main(int argc, char** argv) {
         std::lock_guard lock(watch.mutex);
         watch.lines.push_back(line);
       }
-      ++events;
+      if (++events % 250000 == 0)
+        std::cout << "  " << events << " events, "
+                  << std::chrono::duration<double>(Clock::now() - start).count() << " s, findings "
+                  << findings << std::endl;
       std::string finding, said;
       const auto t0 = Clock::now();
       watch.started = t0.time_since_epoch().count();
