@@ -5,7 +5,7 @@
 // real widgets, and the two outputs must agree line by line.
 //
 //   tessaron-fuzz [--seed N] [--events N] [--seconds N] [--session N]
-//                 [--slow-ms N] [--hang-s N] [--diff] [--out DIR]
+//                 [--slow-ms N] [--hang-s N] [--diff] [--trace] [--out DIR]
 //
 // A finding is written as a script, DIR/fuzz-SEED-SESSION.tsc, that
 // tessaron-script replays. Exit status: 0 nothing found, 1 findings.
@@ -52,6 +52,7 @@ struct Options {
   long hangS = 30;
   long seconds = 0;  // stop after this long, 0 for no limit
   bool diff = false;
+  bool trace = false;  // print every action and what it showed
   std::string out = ".";
 };
 
@@ -129,12 +130,14 @@ bool parse(int argc, char** argv, Options& o) {
       continue;
     if (a == "--diff") {
       o.diff = true;
+    } else if (a == "--trace") {
+      o.trace = true;
     } else if (a == "--out" && i + 1 < argc) {
       o.out = argv[++i];
     } else {
       std::cerr << "usage: tessaron-fuzz [--seed N] [--events N] [--seconds N] [--session N]"
                    " [--slow-ms N]"
-                   " [--hang-s N] [--diff] [--out DIR]\n";
+                   " [--hang-s N] [--diff] [--trace] [--out DIR]\n";
       return false;
     }
   }
@@ -221,6 +224,7 @@ int main(int argc, char** argv) {
         finding = std::string("crash: ") + e.what();
       }
       watch.started = 0;
+      if (o.trace) std::cout << "> " << line << '\n' << said;
       const int64_t ms =
           std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - t0).count();
       if (ms > slowest) {
