@@ -6,7 +6,8 @@ set -euo pipefail
 cd "$(dirname "$0")"
 
 packages=(cmake ninja-build g++ ccache python3 qt6-base-dev libgl-dev qt6-svg-dev libgtest-dev
-          libgmock-dev libbenchmark-dev fonts-nanum xvfb xauth clang strace)
+          libgmock-dev libbenchmark-dev fonts-nanum xvfb xauth clang libclang-rt-dev
+          strace)
 
 install_missing() {
   local missing=()
