@@ -85,6 +85,8 @@ bool same(const Number& a, const Number& b) {
 
 bool settle(bool neg, const Digits& num, const Digits& den, Number& out) {
   for (int scale = 28; scale >= 0; --scale) {
+    // A quotient of thirty digits or more is at least 10^29, beyond 2^96.
+    if (static_cast<int>(num.size()) + scale - static_cast<int>(den.size()) >= 30) continue;
     Digits q, r;
     divmod(shift(num, scale), den, q, r);
     const int half = compare(add(r, r), den);
