@@ -7,7 +7,7 @@ cd "$(dirname "$0")"
 
 packages=(cmake ninja-build g++ ccache python3 qt6-base-dev libgl-dev qt6-svg-dev libgtest-dev
           libgmock-dev libbenchmark-dev fonts-dejavu-core fonts-dejavu-extra fonts-nanum
-          xvfb xauth desktop-file-utils appstream)
+          xvfb xauth desktop-file-utils appstream clang libclang-rt-dev strace)
 
 install_missing() {
   local missing=()

@@ -1,6 +1,7 @@
 // Tessaron: the menu first, and the end when its last form has gone.
 #include <QApplication>
 #include <QLabel>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <QWidget>
 
@@ -18,6 +19,11 @@ int main(int argc, char** argv) {
 
   tessaron::view::QtHost host;
   tessaron::Application app(host);
+  // No window is dragged beyond the desktop it stands on.
+  if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+    const QSize desk = screen->virtualSize();
+    app.setScreen(desk.width() * 15, desk.height() * 15);
+  }
   tessaron::view::QtView view(app);
   app.setObserver(&view);
   tessaron::registerSuite(app);

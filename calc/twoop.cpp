@@ -79,8 +79,10 @@ Value OviCalc::PubPermute(const Value& nv, const Value& rv) {
     return Value();
   };
   // The size is estimated in powers of ten before a single factor is taken.
+  // The estimate stops as soon as it reaches the limit: every factor but a
+  // last 1 adds at least log10(2), so a huge r costs a thousand steps at most.
   double size = 0;
-  for (double i = 0; i < r; ++i) size += std::log10(n - i);
+  for (double i = 0; i < r && size < 307.5; ++i) size += std::log10(n - i);
   if (size >= 307.5) return tooBig();
   double p = 1;
   for (double i = 0; i < r; ++i) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "surface/printable.h"
+
 namespace tessaron {
 
 namespace {
@@ -9,6 +11,42 @@ void dropLastCharacter(std::string& s) {
   std::u16string units = ToUtf16(s);
   if (!units.empty()) units.pop_back();
   s = ToUtf8(units);
+}
+
+// A key that makes no character event at all: NUL stands for "no key", and
+// the Delete character no key of a real keyboard types.
+bool noCharacter(int key) { return key <= 0 || key == 127 || key > 0x10FFFF; }
+
+// The character a key makes as it goes down, as a real window adds it: Enter,
+// Backspace and Escape type their control characters, unless Ctrl is held.
+int characterOfKey(int keyCode, int shift) {
+  return (shift & 2) == 0 && Application::keyTypes(keyCode) ? keyCode : 0;
+}
+
+std::u16string unitsOf(char32_t c) {
+  std::u16string u;
+  if (c < 0x10000) {
+    u.push_back(static_cast<char16_t>(c));
+  } else {
+    c -= 0x10000;
+    u.push_back(static_cast<char16_t>(0xD800 + (c >> 10)));
+    u.push_back(static_cast<char16_t>(0xDC00 + (c & 0x3FF)));
+  }
+  return u;
+}
+
+// The text as the keys that type it: one code point a key.
+std::vector<char32_t> keysOf(std::string_view text) {
+  const std::u16string u = ToUtf16(text);
+  std::vector<char32_t> out;
+  for (size_t i = 0; i < u.size(); ++i) {
+    const char16_t hi = u[i];
+    if (hi >= 0xD800 && hi < 0xDC00 && i + 1 < u.size() && u[i + 1] >= 0xDC00 && u[i + 1] < 0xE000)
+      out.push_back(0x10000 + ((hi - 0xD800) << 10) + (u[++i] - 0xDC00));
+    else
+      out.push_back(hi);
+  }
+  return out;
 }
 }  // namespace
 
@@ -29,9 +67,14 @@ void Application::registerForm(std::string name, Factory factory) {
 bool Application::knows(std::string_view name) const { return factories_.contains(name); }
 
 std::vector<std::string> Application::formNames() const {
-  std::vector<std::string> names;
-  for (const auto& [name, factory] : factories_) names.push_back(name);
-  return names;
+  std::vector<std::string> out;
+  for (const auto& [name, factory] : factories_) out.push_back(name);
+  return out;
+}
+
+void Application::setScreen(int width, int height) {
+  screenWidth_ = std::max(kMinWidth, width);
+  screenHeight_ = std::max(kMinHeight, height);
 }
 
 Form* Application::loaded(std::string_view name) const {
@@ -73,8 +116,40 @@ void Application::unload(Form& form) {
   if (depth_ == 0) settle();
 }
 
+// A real window never leaves the keyboard focus on a control that the logic
+// hid or disabled: it moves on to the next control in tab order, with the
+// LostFocus and GotFocus that go with it, or to the form when none is left.
+void Application::keepFocusReachable() {
+  for (size_t guard = 0; focused_ && !focused_->usable() && guard < 64; ++guard) {
+    Form& form = focused_->form();
+    if (form.unloading()) {
+      focused_ = nullptr;
+      return;
+    }
+    const auto& all = form.controls();
+    const auto at =
+        std::find_if(all.begin(), all.end(), [&](const auto& c) { return c.get() == focused_; });
+    Control* next = nullptr;
+    for (size_t k = 1; at != all.end() && k < all.size() && !next; ++k) {
+      Control* c = all[(static_cast<size_t>(at - all.begin()) + k) % all.size()].get();
+      if (c->takesFocus() && c->design().tabStop && c->usable()) next = c;
+    }
+    moveFocus(next);
+  }
+}
+
+// A window is no larger than the screen and no smaller than its frame, also
+// when the logic set its size; Width and Height read back what applies.
+void Application::fitWindows() {
+  for (const auto& f : forms_) {
+    f->Width = std::clamp(f->Width, kMinWidth, screenWidth_);
+    f->Height = std::clamp(f->Height, kMinHeight, screenHeight_);
+  }
+}
+
 void Application::settle() {
   unloaded_.clear();
+  fitWindows();
   if (observer_) observer_->refresh();
   if (everLoaded_ && forms_.empty() && !ended_) {
     ended_ = true;
@@ -90,6 +165,7 @@ void Application::run(const std::function<void()>& event) {
   depth_ = 1;
   try {
     event();
+    keepFocusReachable();
   } catch (const Failure& failure) {
     depth_ = 0;
     failed_ = true;
@@ -133,8 +209,8 @@ void Application::close(Form& form) {
 
 void Application::resize(Form& form, int width, int height) {
   run([&] {
-    form.Width = width;
-    if (height > 0) form.Height = height;
+    form.Width = std::clamp(width, kMinWidth, screenWidth_);
+    if (height > 0) form.Height = std::clamp(height, kMinHeight, screenHeight_);
     EventArgs args;
     form.fire(nullptr, Event::Resize, args);
   });
@@ -172,10 +248,12 @@ void Application::keyToControl(Control& control, EventArgs& args) {
   const int key = args.KeyAscii;
   if (key == 0) return;
   if (control.kind() == ControlKind::TextBox && !control.design().locked) {
+    // The box shows printable characters only; controls and format
+    // characters such as U+FEFF it drops, as the real box does.
     if (key == 8) {
       dropLastCharacter(control.Text);
-    } else if (key >= 32) {
-      control.Text += ToUtf8(std::u16string(1, static_cast<char16_t>(key)));
+    } else if (key > 0 && Printable(static_cast<char32_t>(key))) {
+      control.Text += ToUtf8(unitsOf(static_cast<char32_t>(key)));
     }
     control.SelStart = Len(Value(control.Text));
     control.SelLength = 0;
@@ -185,29 +263,37 @@ void Application::keyToControl(Control& control, EventArgs& args) {
   }
 }
 
+void Application::pressForm(Form& form, int keyAscii) {
+  if (noCharacter(keyAscii)) return;
+  EventArgs args{.KeyAscii = keyAscii};
+  form.fire(nullptr, Event::KeyPress, args);
+  if (args.KeyAscii == 0 || form.unloading()) return;
+  // Then the focused control, as in a real window: a box takes the
+  // character, a button takes Enter or Space as a click.
+  if (Control* c = form.ActiveControl()) keyToControl(*c, args);
+}
+
+void Application::pressControl(Control& control, int keyAscii) {
+  if (noCharacter(keyAscii)) return;
+  EventArgs args{.KeyAscii = keyAscii};
+  if (control.form().design().keyPreview) control.form().fire(nullptr, Event::KeyPress, args);
+  if (args.KeyAscii != 0 && !control.form().unloading()) keyToControl(control, args);
+}
+
 void Application::press(Form& form, int keyAscii) {
-  run([&] {
-    EventArgs args{.KeyAscii = keyAscii};
-    form.fire(nullptr, Event::KeyPress, args);
-    if (args.KeyAscii == 0) return;
-    // Then the focused control, as in a real window: a box takes the
-    // character, a button takes Enter or Space as a click.
-    if (Control* c = form.ActiveControl()) keyToControl(*c, args);
-  });
+  run([&] { pressForm(form, keyAscii); });
 }
 
 void Application::press(Control& control, int keyAscii) {
-  run([&] {
-    EventArgs args{.KeyAscii = keyAscii};
-    if (control.form().design().keyPreview) control.form().fire(nullptr, Event::KeyPress, args);
-    if (args.KeyAscii != 0) keyToControl(control, args);
-  });
+  run([&] { pressControl(control, keyAscii); });
 }
 
 void Application::keydown(Form& form, int keyCode, int shift) {
   run([&] {
     EventArgs args{.KeyCode = keyCode, .Shift = shift};
     form.fire(nullptr, Event::KeyDown, args);
+    if (const int ch = characterOfKey(keyCode, shift); ch != 0 && !form.unloading())
+      pressForm(form, ch);
     escape(form, args.KeyCode);
   });
 }
@@ -216,7 +302,11 @@ void Application::keydown(Control& control, int keyCode, int shift) {
   run([&] {
     EventArgs args{.KeyCode = keyCode, .Shift = shift};
     if (control.form().design().keyPreview) control.form().fire(nullptr, Event::KeyDown, args);
-    if (args.KeyCode != 0) control.form().fire(&control, Event::KeyDown, args);
+    if (args.KeyCode != 0 && !control.form().unloading())
+      control.form().fire(&control, Event::KeyDown, args);
+    // Enter on a focused button clicks it, through the character it makes.
+    if (const int ch = characterOfKey(keyCode, shift); ch != 0 && !control.form().unloading())
+      pressControl(control, ch);
     escape(control.form(), args.KeyCode);
   });
 }
@@ -236,11 +326,9 @@ void Application::type(Control& control, std::string_view text) {
     // A locked box cannot be edited, so its text cannot be deleted either.
     if (!control.design().locked) control.Text.clear();
     control.SelStart = control.SelLength = 0;
-    for (const char16_t cp : ToUtf16(text)) {
+    for (const char32_t key : keysOf(text)) {
       if (control.form().unloading()) return;
-      EventArgs args{.KeyAscii = cp};
-      if (control.form().design().keyPreview) control.form().fire(nullptr, Event::KeyPress, args);
-      if (args.KeyAscii != 0) keyToControl(control, args);
+      pressControl(control, static_cast<int>(key));
     }
   });
 }

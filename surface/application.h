@@ -24,7 +24,7 @@ class Application {
 
   void registerForm(std::string name, Factory factory);
   bool knows(std::string_view name) const;
-  // The names of every registered form, in name order.
+  // Every registered form's name, in name order.
   std::vector<std::string> formNames() const;
   // The form's singleton, created and loaded at its first use.
   Form& form(std::string_view name);
@@ -53,6 +53,9 @@ class Application {
   void keydown(Form& form, int keyCode, int shift);
   void keydown(Control& control, int keyCode, int shift);
   void focus(Control& control);
+  // Enter, Backspace and Escape: keydown types their character itself, as a
+  // real window adds it to the key (none while Ctrl is held).
+  static bool keyTypes(int keyCode) { return keyCode == 13 || keyCode == 8 || keyCode == 27; }
   void type(Control& control, std::string_view text);
   void scroll(Control& control, int value);
   void cell(Control& control, int row, int col);
@@ -65,6 +68,13 @@ class Application {
   bool ended() const { return ended_; }
   bool failed() const { return failed_; }
 
+  // The screen a window is dragged on, in twips: no window grows beyond it.
+  void setScreen(int width, int height);
+  int screenWidth() const { return screenWidth_; }
+  int screenHeight() const { return screenHeight_; }
+  // The smallest outer size a window keeps: its frame and a sliver of client.
+  static constexpr int kMinWidth = 1800, kMinHeight = 600;
+
   Control* focused() const { return focused_; }
   // LostFocus of the old control, then GotFocus of the new one.
   void moveFocus(Control* to);
@@ -73,6 +83,10 @@ class Application {
   friend class Form;
   void unload(Form& form);
   void settle();
+  void keepFocusReachable();
+  void fitWindows();
+  void pressForm(Form& form, int keyAscii);
+  void pressControl(Control& control, int keyAscii);
   void keyToControl(Control& control, EventArgs& args);
   // Esc on a form that closes on it, once its own routines had the key.
   void escape(Form& form, int keyCode);
@@ -86,6 +100,8 @@ class Application {
   std::vector<std::unique_ptr<Form>> unloaded_;  // discarded once the event ends
   PrinterDevice printer_;
   Control* focused_ = nullptr;
+  // A 1920 by 1080 pixel screen, at 15 twips a pixel.
+  int screenWidth_ = 28800, screenHeight_ = 16200;
   int depth_ = 0;
   bool everLoaded_ = false;
   bool ended_ = false;

@@ -297,7 +297,8 @@ void FormWindow::key(Item* item, QKeyEvent* event) {
   // F1 opens the help page from any form; the form still hears the key.
   if (event->key() == Qt::Key_F1) view_.showHelp("CalcHelp");
   const int code = keyCode(*event);
-  const int ascii = keyAscii(*event);
+  // The model's key down types the character of Enter, Backspace and Escape.
+  const int ascii = code != 0 && Application::keyTypes(code) ? 0 : keyAscii(*event);
   const int shift = shiftState(event->modifiers());
   if (code != 0) {
     if (control)

@@ -112,7 +112,10 @@ class GuiPlayer : public Player {
 
   void dblclick(Control& control) override {
     QWidget* w = widget(control);
-    if (!w || control.kind() == ControlKind::FlexGrid || control.kind() == ControlKind::Timer) {
+    // As with a click, a double click on a bar or a grid presses no part of it.
+    const ControlKind k = control.kind();
+    if (!w || k == ControlKind::FlexGrid || k == ControlKind::Timer || k == ControlKind::Line ||
+        k == ControlKind::HScrollBar || k == ControlKind::VScrollBar) {
       app_.dblclick(control);
       settle();
       return;
@@ -332,7 +335,17 @@ class GuiPlayer : public Player {
 
   // A character key alone: the key under it is not told.
   static void character(QWidget* target, int keyAscii) {
-    const QString text = QString::fromUcs4(reinterpret_cast<const char32_t*>(&keyAscii), 1);
+    if (keyAscii < 0 || keyAscii > 0x10FFFF) return;  // no key types it
+    // Built unit by unit: read as UTF-32 text, U+FEFF would be taken for a
+    // byte order mark and the key would type nothing.
+    const char32_t c = static_cast<char32_t>(keyAscii);
+    QString text;
+    if (QChar::requiresSurrogates(c)) {
+      text += QChar(QChar::highSurrogate(c));
+      text += QChar(QChar::lowSurrogate(c));
+    } else {
+      text += QChar(static_cast<char16_t>(c));
+    }
     QKeyEvent down(QEvent::KeyPress, 0, Qt::NoModifier, text);
     QCoreApplication::sendEvent(target, &down);
   }

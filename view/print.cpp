@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QPainter>
+#include <QPdfWriter>
 
 #include "view/metrics.h"
 #include "view/paint_ops.h"
@@ -31,14 +32,25 @@ void renderJob(const PrintJob& job, QPrinter& printer) {
   painter.end();
 }
 
+// A PDF is written without the printing system: no print server is asked
+// for its printers to make a file.
 bool renderJobToPdf(const PrintJob& job, const std::string& file) {
-  QPrinter printer(QPrinter::HighResolution);
-  printer.setOutputFormat(QPrinter::PdfFormat);
-  printer.setOutputFileName(qs(file));
-  printer.setPageSize(QPageSize(QPageSize::Letter));
-  printer.setPageMargins(QMarginsF(0.25, 0.25, 0.25, 0.25), QPageLayout::Inch);
-  printer.setCreator(QStringLiteral("Tessaron"));
-  renderJob(job, printer);
+  {
+    QPdfWriter pdf(qs(file));
+    pdf.setCreator(QStringLiteral("Tessaron"));
+    pdf.setResolution(1200);
+    pdf.setPageLayout(QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait,
+                                  QMarginsF(0.25, 0.25, 0.25, 0.25), QPageLayout::Inch));
+    QPainter painter;
+    if (!painter.begin(&pdf)) return false;
+    const double dpi = pdf.resolution();
+    const QSizeF area = pdf.pageLayout().paintRectPixels(pdf.resolution()).size();
+    for (int i = 0; i < static_cast<int>(job.pages.size()); ++i) {
+      if (i > 0) pdf.newPage();
+      paintPage(painter, job, i, area, dpi);
+    }
+    painter.end();
+  }
   return QFileInfo(qs(file)).size() > 0;
 }
 

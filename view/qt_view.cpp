@@ -76,8 +76,13 @@ void QtView::formUnloading(Form& form) {
 }
 
 void QtView::refresh() {
+  // A widget hidden or disabled here passes the focus on by the toolkit's own
+  // rule; the model has already moved it as a real window does, so the moves
+  // made while syncing are not the user's and showFocus() applies the model's.
+  applyingFocus_ = true;
   for (auto& [form, window] : windows_)
     if (window) window->sync();
+  applyingFocus_ = false;
   showFocus();
   if (ticksWaiting_) QTimer::singleShot(0, context_.get(), [this] { runWaitingTicks(); });
 }

@@ -133,6 +133,48 @@ TEST_F(EventsTest, EnterOnAButtonClicksIt) {
   EXPECT_EQ(log, (std::vector<std::string>{"cmdA.Click"}));
 }
 
+TEST_F(EventsTest, EnterGoingDownOnAButtonClicksItUnlessCtrlIsHeld) {
+  app.keydown(c("cmdA"), 13, 0);
+  app.keydown(c("cmdA"), 13, 2);
+  app.keydown(c("cmdA"), 65, 0);
+  EXPECT_EQ(log, (std::vector<std::string>{"cmdA.Click"}));
+}
+
+TEST_F(EventsTest, ABoxShowsOnlyPrintableCharacters) {
+  app.type(c("txtB"),
+           "1\t2\x7f"
+           "3\xef\xbb\xbf"
+           "4\xf0\x9f\x98\x80");
+  EXPECT_EQ(c("txtB").Text, "1234\xf0\x9f\x98\x80");
+  EXPECT_EQ(c("txtB").SelStart, 6);  // the last character is two code units
+  log.clear();
+  app.press(c("txtA"), 0);
+  app.press(c("txtA"), 127);
+  app.press(c("txtA"), 9);
+  EXPECT_EQ(log, (std::vector<std::string>{"txtA.KeyPress 9"}));
+  EXPECT_EQ(c("txtA").Text, "");
+}
+
+TEST_F(EventsTest, TheFocusMovesOnFromAControlTheLogicHides) {
+  app.focus(c("txtA"));
+  log.clear();
+  app.run([&] { c("txtA").Visible = false; });
+  EXPECT_EQ(app.focused(), &c("txtB"));
+  EXPECT_EQ(log, (std::vector<std::string>{"txtA.LostFocus"}));
+  app.run([&] {
+    for (const char* n : {"cmdA", "txtB", "txtLocked", "grdA"}) c(n).Enabled = false;
+    c("Number", 0).Enabled = c("Number", 1).Enabled = false;
+  });
+  EXPECT_EQ(app.focused(), nullptr);
+}
+
+TEST_F(EventsTest, AWindowStaysWithinTheScreen) {
+  app.resize(*f, 2147483647, -1);
+  EXPECT_EQ(f->Width, app.screenWidth());
+  app.run([&] { f->Height = -40; });
+  EXPECT_EQ(f->Height, Application::kMinHeight);
+}
+
 TEST_F(EventsTest, GridClickSetsRowAndColFirst) {
   app.cell(c("grdA"), 1, 0);
   EXPECT_EQ(log, (std::vector<std::string>{"grdA.Click 1,0"}));

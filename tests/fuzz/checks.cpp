@@ -1,0 +1,65 @@
+#include "tests/fuzz/checks.h"
+
+#include <cmath>
+#include <string_view>
+
+#include "calc/ovicalc.h"
+#include "surface/form.h"
+
+namespace tessaron::fuzz {
+
+namespace {
+
+bool isNumber(const Value& v) {
+  switch (v.kind()) {
+    case Kind::Int16:
+    case Kind::Int32:
+    case Kind::Dec:
+      return true;
+    case Kind::Real:
+      return std::isfinite(v.number());
+    default:
+      return false;
+  }
+}
+
+std::string calculator(const Form& form) {
+  const auto& f = static_cast<const OviCalc&>(form);
+  if (f.nLevel < 0 || f.nLevel > 33) return "nLevel " + std::to_string(f.nLevel);
+  for (int m = 1; m <= 33; ++m)
+    if (!isNumber(f.vMemory[m])) return "memory " + std::to_string(m) + " is not a number";
+  if (f.KeyCount < 0 || f.KeyCount > static_cast<int>(f.KeyOrder.size()))
+    return "KeyCount " + std::to_string(f.KeyCount);
+  return "";
+}
+
+// Every form's own checks, by form name: add a row when a form lands.
+struct FormCheck {
+  std::string_view form;
+  std::string (*check)(const Form&);
+};
+constexpr FormCheck kChecks[] = {
+    {"OviCalc", calculator},
+};
+
+// What holds of every form: a scroll bar's value within its range.
+std::string everyForm(const Form& form) {
+  for (const auto& c : form.controls()) {
+    if (c->kind() != ControlKind::HScrollBar && c->kind() != ControlKind::VScrollBar) continue;
+    const double v = c->value().number();
+    if (v < std::min(c->Min(), c->Max()) || v > std::max(c->Min(), c->Max()))
+      return c->path() + ".Value out of its range";
+  }
+  return "";
+}
+
+}  // namespace
+
+std::string checkForm(const Form& form) {
+  if (std::string wrong = everyForm(form); !wrong.empty()) return wrong;
+  for (const FormCheck& row : kChecks)
+    if (row.form == form.name()) return row.check(form);
+  return "";
+}
+
+}  // namespace tessaron::fuzz
