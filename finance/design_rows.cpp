@@ -6,6 +6,36 @@ namespace tessaron {
 
 namespace {
 using K = ControlKind;
+
+// A one-line label on the rate-and-term panel.
+Design PanelLabel(std::string name, std::string caption, int left, int top, int width,
+                  Align alignment) {
+  return {.kind = K::Label,
+          .name = std::move(name),
+          .caption = std::move(caption),
+          .left = left,
+          .top = top,
+          .width = width,
+          .height = 285,
+          .container = "Frame2",
+          .alignment = alignment};
+}
+
+Design Bar(std::string name, int left, int top, int width, int min, int max, int largeChange,
+           int value) {
+  return {.kind = K::HScrollBar,
+          .name = std::move(name),
+          .left = left,
+          .top = top,
+          .width = width,
+          .height = 255,
+          .container = "Frame2",
+          .min = min,
+          .max = max,
+          .smallChange = 1,
+          .largeChange = largeChange,
+          .value = value};
+}
 }  // namespace
 
 Design AmountsFrame() {
@@ -81,119 +111,32 @@ Design RateBox() {
           .alignment = Align::Right};
 }
 
-Design PercentLabel() {
-  return {.kind = K::Label,
-          .name = "lblPct",
-          .caption = "  %",
-          .left = 2880,
-          .top = 300,
-          .width = 495,
-          .height = 285,
-          .container = "Frame2"};
-}
+Design PercentLabel() { return PanelLabel("lblPct", "  %", 2880, 300, 495, Align::Left); }
 
 // The bar holds the rate in hundredths of a percent.
-Design RateBar(int min) {
-  return {.kind = K::HScrollBar,
-          .name = "scrRate",
-          .left = 120,
-          .top = 720,
-          .width = 4200,
-          .height = 255,
-          .container = "Frame2",
-          .min = min,
-          .max = 6000,
-          .smallChange = 1,
-          .largeChange = 20,
-          .value = 2000};
-}
+Design RateBar(int min) { return Bar("scrRate", 120, 720, 4200, min, 6000, 20, 2000); }
 
 Design TermLabel(std::string name, std::string caption) {
-  return {.kind = K::Label,
-          .name = std::move(name),
-          .caption = std::move(caption),
-          .left = 120,
-          .top = 1140,
-          .width = 855,
-          .height = 285,
-          .container = "Frame2"};
+  return PanelLabel(std::move(name), std::move(caption), 120, 1140, 855, Align::Left);
 }
 
 Design YearsLabel(std::string name, std::string caption) {
-  return {.kind = K::Label,
-          .name = std::move(name),
-          .caption = std::move(caption),
-          .left = 1020,
-          .top = 1140,
-          .width = 495,
-          .height = 285,
-          .container = "Frame2",
-          .alignment = Align::Right};
+  return PanelLabel(std::move(name), std::move(caption), 1020, 1140, 495, Align::Right);
 }
 
-Design YearsUnitLabel() {
-  return {.kind = K::Label,
-          .name = "lblYr",
-          .caption = "Years",
-          .left = 1560,
-          .top = 1140,
-          .width = 615,
-          .height = 285,
-          .container = "Frame2"};
-}
+Design YearsUnitLabel() { return PanelLabel("lblYr", "Years", 1560, 1140, 615, Align::Left); }
 
-Design MonthsLabel() {
-  return {.kind = K::Label,
-          .name = "lblMonth",
-          .caption = "0",
-          .left = 2280,
-          .top = 1140,
-          .width = 495,
-          .height = 285,
-          .container = "Frame2",
-          .alignment = Align::Right};
-}
+Design MonthsLabel() { return PanelLabel("lblMonth", "0", 2280, 1140, 495, Align::Right); }
 
-Design MonthsUnitLabel() {
-  return {.kind = K::Label,
-          .name = "lblMn",
-          .caption = "Months",
-          .left = 2820,
-          .top = 1140,
-          .width = 735,
-          .height = 285,
-          .container = "Frame2"};
-}
+Design MonthsUnitLabel() { return PanelLabel("lblMn", "Months", 2820, 1140, 735, Align::Left); }
 
 Design YearBar(int min, int max, int largeChange, int value) {
-  return {.kind = K::HScrollBar,
-          .name = "scrYear",
-          .left = 120,
-          .top = 1500,
-          .width = 2040,
-          .height = 255,
-          .container = "Frame2",
-          .min = min,
-          .max = max,
-          .smallChange = 1,
-          .largeChange = largeChange,
-          .value = value};
+  return Bar("scrYear", 120, 1500, 2040, min, max, largeChange, value);
 }
 
 // A year a step.
 Design MonthBar(int min, int max, int value) {
-  return {.kind = K::HScrollBar,
-          .name = "scrMonth",
-          .left = 2280,
-          .top = 1500,
-          .width = 2040,
-          .height = 255,
-          .container = "Frame2",
-          .min = min,
-          .max = max,
-          .smallChange = 1,
-          .largeChange = 12,
-          .value = value};
+  return Bar("scrMonth", 2280, 1500, 2040, min, max, 12, value);
 }
 
 Design KeysFrame(int height) {
