@@ -148,6 +148,36 @@ Design KeysFrame(int height) {
           .height = height};
 }
 
+Design ChoiceFrame(std::string name, std::string caption, int left, int width) {
+  return {.kind = K::Frame,
+          .name = std::move(name),
+          .caption = std::move(caption),
+          .left = left,
+          .top = 180,
+          .width = width,
+          .height = 615,
+          .container = "Frame3"};
+}
+
+Design Choice(std::string name, std::string caption, int left, int width, std::string container) {
+  return {.kind = K::OptionButton,
+          .name = std::move(name),
+          .caption = std::move(caption),
+          .left = left,
+          .top = 240,
+          .width = width,
+          .height = 255,
+          .container = std::move(container)};
+}
+
+Design DefaultChoice(std::string name, std::string caption, int left, int width,
+                     std::string container) {
+  Design d = Choice(std::move(name), std::move(caption), left, width, std::move(container));
+  d.tip = " default ";
+  d.checked = true;
+  return d;
+}
+
 Design PanelKey(std::string name, std::string caption, std::string tip, int left) {
   return {.kind = K::CommandButton,
           .name = std::move(name),

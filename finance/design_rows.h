@@ -31,8 +31,13 @@ Design MonthsUnitLabel();
 Design YearBar(int min, int max, int largeChange, int value);
 Design MonthBar(int min, int max, int value);
 
-// The keys' panel, Frame3, and its row of keys.
+// The keys' panel, Frame3, its frames of choices and its row of keys.
 Design KeysFrame(int height);
+Design ChoiceFrame(std::string name, std::string caption, int left, int width);
+Design Choice(std::string name, std::string caption, int left, int width, std::string container);
+// The choice a form starts with, which says so in its tip.
+Design DefaultChoice(std::string name, std::string caption, int left, int width,
+                     std::string container);
 Design PanelKey(std::string name, std::string caption, std::string tip, int left);
 
 }  // namespace tessaron
