@@ -148,6 +148,9 @@ void frmStatistics::PubClear() {
   control("fmData").Caption = "Data";
   S.Data.fill(0);
   S.DataText.fill("");
+  // A cell that keeps the focus through the clearing held a datum that is
+  // gone now: leaving it empty must not count that datum off a second time.
+  S.OldText.clear();
   S.SortWork.fill(0);
   S.SortVal.fill(Value(""));
   S.SortQty.fill(0);

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "calc/ovicalc.h"
+#include "statistics/statistics.h"
 #include "surface/form.h"
 
 namespace tessaron::fuzz {
@@ -33,6 +34,17 @@ std::string calculator(const Form& form) {
   return "";
 }
 
+// The sheet's count is the number of places that hold a datum, blanks not
+// counted.
+std::string statistics(const Form& form) {
+  const auto& S = const_cast<Form&>(form).kept<StatisticsSheet>();
+  int held = 0;
+  for (const std::string& t : S.DataText) held += t.empty() ? 0 : 1;
+  if (held != S.DataCount)
+    return "DataCount " + std::to_string(S.DataCount) + " for " + std::to_string(held) + " data";
+  return "";
+}
+
 // Every form's own checks, by form name: add a row when a form lands.
 struct FormCheck {
   std::string_view form;
@@ -40,6 +52,7 @@ struct FormCheck {
 };
 constexpr FormCheck kChecks[] = {
     {"OviCalc", calculator},
+    {"frmStatistics", statistics},
 };
 
 // What holds of every form: a scroll bar's value within its range.
