@@ -36,6 +36,13 @@ void frmStatistics::Refuse(Control& box, const char* words, const std::string& t
   box.SetFocus();
 }
 
+// A cell that already had the focus gets no GotFocus when a key gives it the
+// focus again, so the text it is measured against on leaving is taken anew
+// from the place the key has just changed under it.
+void frmStatistics::KeepPlaceText() {
+  if (ActiveControl() == &control("txtBBB", S.GridCell)) S.OldText = S.DataText[S.DataPlace];
+}
+
 void frmStatistics::txtBBBGotFocus(int index) {
   S.IsCalced = false;
   // Data are only edited in place order.
@@ -236,6 +243,7 @@ void frmStatistics::cmdInsertClick() {
   control("txtBBB", S.GridCell).Text = "";
   S.IsCalced = false;
   control("txtBBB", S.GridCell).SetFocus();
+  KeepPlaceText();
 }
 
 void frmStatistics::cmdOneClick() {
@@ -275,6 +283,7 @@ void frmStatistics::cmdOneClick() {
   PubEndData();
   LastGuard();
   control("txtBBB", S.GridCell).SetFocus();
+  KeepPlaceText();
 }
 
 }  // namespace tessaron

@@ -99,6 +99,7 @@ class frmStatistics : public Form {
   // A refusal of a box: the box turns white, the message, then the text as
   // given and the focus back in the box.
   void Refuse(Control& box, const char* words, const std::string& text);
+  void KeepPlaceText();
   // The graph and the report.
   bool GraphReady();
   void cmdGraphClick();
