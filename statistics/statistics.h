@@ -6,6 +6,7 @@
 #include <array>
 #include <string>
 
+#include "numeric/bounded.h"
 #include "surface/form.h"
 
 namespace tessaron {
@@ -16,14 +17,14 @@ class Canvas;
 // sheet reopens as it was left.
 struct StatisticsSheet {
   static constexpr int kPlaces = 1235;  // places 0 to 1234
-  std::array<double, kPlaces> Data{};
-  std::array<std::string, kPlaces> DataText{};  // "" for a blank: tells a blank from a zero
-  std::array<double, kPlaces> SortWork{};
-  std::array<Value, kPlaces> SortVal{};  // distinct values ascending; "" for the blanks and below
-  std::array<int, kPlaces> SortQty{};
+  Bounded<double, kPlaces> Data;
+  Bounded<std::string, kPlaces> DataText;  // "" for a blank: tells a blank from a zero
+  Bounded<double, kPlaces> SortWork;
+  Bounded<Value, kPlaces> SortVal;  // distinct values ascending; "" for the blanks and below
+  Bounded<int, kPlaces> SortQty;
   int SortCount = 0;
-  std::array<double, 6> Aim{};  // 1 Last, 2 Low limit, 3 High limit
-  std::array<std::string, 6> AimText{};
+  Bounded<double, 6> Aim;  // 1 Last, 2 Low limit, 3 High limit
+  Bounded<std::string, 6> AimText;
   int DataCount = 0;
   double DataSum = 0, DataAvg = 0;
   // The sum in decimal: the data are typed decimals of at most six places,

@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "numeric/bounded.h"
 #include "numeric/numeric.h"
 #include "tests/numeric/helpers.h"
 
@@ -22,6 +23,14 @@ struct KindRow {
   Kind kind;
   const char* text;
 };
+
+TEST(Rules, AnIndexOutsideAFormsArrayIsSubscriptOutOfRange) {
+  Bounded<std::string, 3> a;
+  a[2] = "last";
+  EXPECT_EQ(a[2], "last");
+  EXPECT_EQ(Words([&] { a[3] = "x"; }), "Subscript out of range");
+  EXPECT_EQ(Words([&] { (void)a[static_cast<std::size_t>(-1)]; }), "Subscript out of range");
+}
 
 TEST(Rules, KindsOfResults) {
   const KindRow rows[] = {
