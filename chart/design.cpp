@@ -4,6 +4,7 @@
 // in a row along the foot.
 #include "chart/layout.h"
 #include "chart/ovisum.h"
+#include "surface/design_rows.h"
 
 namespace tessaron {
 
@@ -24,29 +25,15 @@ Design cellBox(int index, int left, int top) {
 }
 
 Design button(const char* name, const char* caption, const char* tip, int slot) {
-  return {.kind = K::CommandButton,
-          .name = name,
-          .caption = caption,
-          .tip = tip,
-          .left = 120 + slot * kButtonPitch,
-          .top = kButtonTop,
-          .width = kButtonW,
-          .height = 420};
+  return Row(K::CommandButton, name, -1, caption, tip, 120 + slot * kButtonPitch, kButtonTop,
+             kButtonW, 420);
 }
 
 Design option(const char* name, int index, const char* caption, const char* tip, int left, int top,
               int width, const char* frame, bool checked = false) {
-  return {.kind = K::OptionButton,
-          .name = name,
-          .index = index,
-          .caption = caption,
-          .tip = tip,
-          .left = left,
-          .top = top,
-          .width = width,
-          .height = 285,
-          .container = frame,
-          .checked = checked};
+  Design d = Row(K::OptionButton, name, index, caption, tip, left, top, width, 285, frame);
+  d.checked = checked;
+  return d;
 }
 
 Design label(const char* name, int index, std::string caption, int left, int top, int width,

@@ -1,6 +1,7 @@
 #include "statistics/statistics_design.h"
 
 #include "statistics/colours.h"
+#include "surface/design_rows.h"
 
 namespace tessaron {
 
@@ -15,16 +16,7 @@ constexpr int kTitleX = 3480, kLowX = 4680, kHighX = 6840, kValueW = 2040;
 
 Design label(const char* name, int index, const char* caption, const char* tip, int left, int top,
              int width, const char* container = "") {
-  return {.kind = K::Label,
-          .name = name,
-          .index = index,
-          .caption = caption,
-          .tip = tip,
-          .left = left,
-          .top = top,
-          .width = width,
-          .height = 255,
-          .container = container};
+  return Row(K::Label, name, index, caption, tip, left, top, width, 255, container);
 }
 
 Design title(int index, const char* caption, int left, int top, int width = 1140) {
@@ -54,15 +46,7 @@ Design aim(int index, const char* tip, int left, int top) {
 
 Design button(const char* name, const char* caption, const char* tip, int left, int top,
               const char* container = "") {
-  return {.kind = K::CommandButton,
-          .name = name,
-          .caption = caption,
-          .tip = tip,
-          .left = left,
-          .top = top,
-          .width = 1080,
-          .height = 420,
-          .container = container};
+  return Row(K::CommandButton, name, -1, caption, tip, left, top, 1080, 420, container);
 }
 
 Design line(const char* name, double x1, double y1, double x2, double y2, long colour, int width,
