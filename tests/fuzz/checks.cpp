@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "calc/ovicalc.h"
+#include "chart/state.h"
 #include "statistics/statistics.h"
 #include "surface/form.h"
 
@@ -45,6 +46,29 @@ std::string statistics(const Form& form) {
   return "";
 }
 
+// A column total the chart shows is the sum of the amounts it shows in that
+// column. Clear All blanks the totals without zeroing the sums behind them,
+// and a reopened chart only adds up again once a cell holds an amount, so
+// only a shown total is held to its column.
+std::string chart(const Form& form) {
+  auto& f = const_cast<Form&>(form);
+  const ChartState& c = f.kept<ChartState>();
+  struct Column {
+    int label, first;
+    const Value& sum;
+    const char* name;
+  };
+  const Column columns[] = {{1, 1, c.SumAAA, "SumAAA"}, {2, 13, c.SumBBB, "SumBBB"}};
+  for (const Column& col : columns) {
+    if (f.control("lblAmt", col.label).Caption.empty()) continue;
+    Value shown(0);
+    for (int I = col.first; I < col.first + 12; ++I) shown = shown + c.CellShown(I);
+    if (!(col.sum == shown))
+      return std::string(col.name) + " " + CStr(col.sum) + " for " + CStr(shown);
+  }
+  return "";
+}
+
 // Every form's own checks, by form name: add a row when a form lands.
 struct FormCheck {
   std::string_view form;
@@ -52,6 +76,7 @@ struct FormCheck {
 };
 constexpr FormCheck kChecks[] = {
     {"OviCalc", calculator},
+    {"OviSum", chart},
     {"frmStatistics", statistics},
 };
 
