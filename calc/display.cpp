@@ -32,6 +32,7 @@ double readNumber(const std::string& text) {
 // Every key reads the display, and most read what the key before wrote: the
 // last text read is kept with its value.
 double OviCalc::displayValue() const {
+  if (pendingShow_) return shownValue_;
   const std::string& text = Readout->Caption;
   if (text != shownText_) {
     shownValue_ = readNumber(text);
@@ -39,7 +40,6 @@ double OviCalc::displayValue() const {
   }
   return shownValue_;
 }
-double OviCalc::readNumberOf(const std::string& text) { return readNumber(text); }
 
 void OviCalc::warn(std::string_view text) {
   if (loud()) MsgBox(std::string(text), 48, " Vantor Calc");
@@ -77,7 +77,7 @@ void OviCalc::enableFunctions(bool on) {
 }
 
 void OviCalc::pubNewOri() {
-  if (disp().empty()) disp() = "0";
+  blankToZero();
   enableFunctions(true);
   // Levels above the highest one used since the last reset still hold their
   // start values, so the replay's many resets stay cheap.
@@ -86,7 +86,7 @@ void OviCalc::pubNewOri() {
     sgCount[l] = sgLastOp[l] = sgSumOp[l] = 0;
     sEntry[l] = Entry::Ops;
     sOp[l] = 0;
-    sShown[l] = "0";
+    sShown[l] = KeptShow();
     nLastOp[l] = Value(0);
   }
   nLevelHigh = 0;
@@ -152,13 +152,69 @@ void OviCalc::PubSetting() {
 }
 
 void OviCalc::PubShow(Control& target, const Value& value) {
+  const bool display = &target == Readout;
+  if (display) pendingShow_ = false;
   if (value.kind() == Kind::Empty || (value.kind() == Kind::String && value.AsString().empty())) {
     target.Caption = "0";
     return;
   }
   // The conversion through Real is the whole fifteen-digit limit.
   const double v = value.kind() == Kind::Real ? value.AsReal() : value.number();
+  if (!display) {
+    target.Caption = CStr(Value(v));
+    return;
+  }
+  // The next key reads the display back: it is known without reading.
+  shownValue_ = readBack(v);
+  if (replaying_ && !loud()) {
+    pend(v);
+    return;
+  }
   target.Caption = CStr(Value(v));
+  shownText_ = target.Caption;
+}
+
+KeptShow OviCalc::keptDisplay() const {
+  if (pendingShow_) return {std::string(), pendingValue_, true};
+  return {Readout->Caption, 0, false};
+}
+
+void OviCalc::restoreDisplay(const KeptShow& kept) {
+  if (!kept.numeric) {
+    setDisp(kept.text);
+  } else if (replaying_ && !loud()) {
+    shownValue_ = readBack(kept.number);
+    pend(kept.number);
+  } else {
+    setDisp(CStr(Value(kept.number)));
+  }
+}
+
+double OviCalc::keptNumber(const KeptShow& kept) const {
+  if (kept.numeric) return readBack(kept.number);
+  return !pendingShow_ && kept.text == shownText_ ? shownValue_ : readNumber(kept.text);
+}
+
+double OviCalc::readBack(double v) const {
+  if (v != readIn_) {
+    readIn_ = v;
+    readOut_ = CStrValue(v);
+  }
+  return readOut_;
+}
+
+// The text on the display is no longer what was last read: whatever is
+// written next must be read afresh.
+void OviCalc::pend(double v) {
+  pendingShow_ = true;
+  pendingValue_ = v;
+  shownText_ = "\x01";
+}
+
+void OviCalc::flushShow() {
+  pendingShow_ = false;
+  Readout->Caption = CStr(Value(pendingValue_));
+  shownText_ = Readout->Caption;
 }
 
 void OviCalc::PubReadout(const Value& value) {
@@ -168,10 +224,11 @@ void OviCalc::PubReadout(const Value& value) {
 
 void OviCalc::PubReadComma() {
   // Val stops at a comma; a text without one reads as the display does.
-  const std::string& t = disp();
-  const double a =
-      std::fabs(t.find(',') == std::string::npos && !t.empty() ? displayValue() : Val(t));
-  if (a >= 1000 && a < 1e15) disp() = Format(Value(displayValue()), "###,##0.####################");
+  // A number waiting to be shown has no comma yet.
+  const std::string& t = Readout->Caption;
+  const bool plain = pendingShow_ || (t.find(',') == std::string::npos && !t.empty());
+  const double a = std::fabs(plain ? displayValue() : Val(t));
+  if (a >= 1000 && a < 1e15) setDisp(Format(Value(displayValue()), "###,##0.####################"));
 }
 
 void OviCalc::PubZeroRead() {

@@ -53,7 +53,7 @@ static void valueKeys(OviCalc& f, Control* fract, Control* octal, Control* fac, 
 }
 
 void OviCalc::pubEnableA() {
-  if (disp().empty()) disp() = "0";
+  blankToZero();
   if (CalcStage > 4) return;
   double v = 0;
   tryValue(disp(), v);
@@ -77,7 +77,7 @@ void OviCalc::pubEnableA() {
 }
 
 void OviCalc::pubEnableB() {
-  if (disp().empty()) disp() = "0";
+  blankToZero();
   if (CalcStage > 4) return;
   bExp = bDecimal = false;
   cmdDeleteC->Enabled = false;
@@ -101,7 +101,7 @@ void OviCalc::pubEnableB() {
 }
 
 void OviCalc::pubEnableD() {
-  if (disp().empty()) disp() = "0";
+  blankToZero();
   if (CalcStage > 4) return;
   bExp = bDecimal = false;
   cmdDeleteC->Enabled = false;

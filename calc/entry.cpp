@@ -63,7 +63,7 @@ void OviCalc::Number(int Index) {
   PubSettingB();
   // A silent replay, by the solver or by Calc, keeps its digits together.
   if (CalcStage < 5 && KeyCount == 3) {
-    disp() = "0";
+    setDisp("0");
     PubIniOrder();
   }
   logKey(Index);
@@ -78,7 +78,7 @@ void OviCalc::Number(int Index) {
       colour(kBlue);
       const bool wasNumber = sEntry[nLevel] == Entry::Nums;
       if (!wasNumber) {
-        disp() = "0";
+        setDisp("0");
         bDecimal = false;
       }
       std::string& t = disp();
@@ -115,7 +115,7 @@ void OviCalc::Number(int Index) {
       sEntry[nLevel] = Entry::Nums;
     }
     pubEnableA();
-    if (disp().empty()) disp() = "0";
+    blankToZero();
     if (displayValue() == 0 && !bExp) enable(cmdExpC, true);
   }
   if (!loud()) return;
@@ -134,7 +134,7 @@ void OviCalc::cmdDeci() {
   auto point = [this](bool fresh) {
     colour(kBlue);
     if (fresh)
-      disp() = "0.";
+      setDisp("0.");
     else
       disp() += '.';
     bDecimal = true;
@@ -287,7 +287,7 @@ void OviCalc::CancelEntry() {
   if (nLastOp[nLevel] == Value(2)) pubNew();
   bResult = false;
   colour(kBlue);
-  disp() = "0";
+  setDisp("0");
   bDecimal = false;
   sEntry[nLevel] = Entry::Ops;
   pubEnableB();
@@ -311,7 +311,7 @@ void OviCalc::Cancel() {
   if (loud()) greyPrefixes();
   pubNew();
   colour(kBlue);
-  disp() = "0";
+  setDisp("0");
   enable(cmdClosePC, false);
   enable(OperatorC[2], true);
   if (!EqnOpen) {
@@ -363,7 +363,7 @@ void OviCalc::cmdBack() {
     --KeyCount;
     pubNewT();
     const std::vector<int> kept(KeyOrder.begin() + 3, KeyOrder.begin() + KeyCount);
-    disp() = "0";
+    setDisp("0");
     colour(kBlue);
     if (KeyLog) {
       // The angle unit the calculation began with comes back first, silently.
@@ -378,7 +378,7 @@ void OviCalc::cmdBack() {
     for (int code : kept) pubCola(code);
     if (kept.empty()) {
       enable(cmdBackC, false);
-      if (disp().empty()) disp() = "0";
+      blankToZero();
     }
   } else {
     Cancel();

@@ -66,9 +66,9 @@ void OviCalc::functionKey(int code, Kernel kernel) {
       break;
     case k::Act::Zero:
       // The infinity stands while the box is open; the chain is kept.
-      disp() = o.text;
+      setDisp(o.text);
       warn(o.message);
-      disp() = "0";
+      setDisp("0");
       ErrFlag = true;
       return;
     case k::Act::Cancel:
@@ -87,7 +87,7 @@ void OviCalc::functionKey(int code, Kernel kernel) {
       warn(o.message);
       k::SaveCalculation({HistText, HistValue, HistColor}, o.text, Value(0), nColor);
       colour(kBlue);
-      disp() = "0";
+      setDisp("0");
       sEntry[nLevel] = Entry::Ops;
       if (loud()) PubIniOrder();
       return;

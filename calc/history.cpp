@@ -35,7 +35,7 @@ void OviCalc::pubHistSave() {
 // in the angle unit it began with. They are in the record already, so the
 // replay does not record them twice.
 void OviCalc::replayKept() {
-  disp() = "0";
+  setDisp("0");
   colour(kBlue);
   const bool logging = KeyLog;
   KeyLog = false;

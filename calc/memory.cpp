@@ -36,7 +36,7 @@ void OviCalc::MMMoutKey(int Index) {
     case k::Recall::Unchanged:
       break;
     case k::Recall::ShowZero:
-      disp() = "0";
+      setDisp("0");
       break;
     case k::Recall::ShowMemory:
       PubShow(*Readout, memory);

@@ -2,6 +2,7 @@
 // multiplicative chain, vSumHold and sgSumOp keep the sum that waits for it,
 // and vFuncX and vFuncY hold a pending two-operand function, the tightest
 // binding. Nothing is parsed: the chain is evaluated as the keys arrive.
+#include <array>
 #include <cmath>
 
 #include "calc/ovicalc.h"
@@ -27,7 +28,18 @@ double num(const Value& v) {
 bool whole(double v) { return v == std::floor(v); }
 
 // Ten to a whole power, as the ^ operator gives it: beyond a Real, Overflow.
-double tenTo(double p) { return Pow(Value(10), Value(p)).AsReal(); }
+// The dust cut asks for whole powers, at every sum of every replay: each is
+// made once, by the very power routine, and kept.
+double tenTo(double p) {
+  constexpr int kLow = -330, kHigh = 308;  // beyond 10^308 the power overflows, as it should
+  static const std::array<double, kHigh - kLow + 1> whole = [] {
+    std::array<double, kHigh - kLow + 1> t{};
+    for (int i = kLow; i <= kHigh; ++i) t[i - kLow] = Pow(Value(10), Value(i)).AsReal();
+    return t;
+  }();
+  if (p == std::floor(p) && p >= kLow && p <= kHigh) return whole[static_cast<int>(p) - kLow];
+  return Pow(Value(10), Value(p)).AsReal();
+}
 }  // namespace
 
 Value OviCalc::PubOPX(char op, const Value& x, const Value& y) {
@@ -84,7 +96,7 @@ void OviCalc::refuse(std::string_view text) {
 }
 
 void OviCalc::Operator(int Index) {
-  if (disp().empty()) disp() = "0";
+  blankToZero();
   if (Index == 8) {
     const double v = displayValue();
     if (v <= 0 || v == 1) {
@@ -143,7 +155,7 @@ void OviCalc::Operator(int Index) {
   if (Index == 1 && wasOps && sgCount[nLevel] == 1 && sgLastOp[nLevel] < 5 && pending != 0 &&
       pending != '=' && pending != ' ') {
     colour(kBlue);
-    disp() = "-";
+    setDisp("-");
     sEntry[nLevel] = Entry::Nums;
     return;
   }
@@ -153,19 +165,19 @@ void OviCalc::Operator(int Index) {
     if (Index >= 5) enableFunctions(false);
   }
   if (Index >= 5 && sgLastOp[nLevel] >= 5) {
-    const std::string kept = disp();
+    const KeptShow kept = keptDisplay();
     pubNew();
-    disp() = kept;
+    restoreDisplay(kept);
     colour(kGreen);
     sEntry[nLevel] = Entry::Nums;
   }
   bResult = false;
-  sShown[nLevel] = disp();
+  sShown[nLevel] = keptDisplay();
   colour(kGreen);
   if (sEntry[nLevel] == Entry::Ops) {
-    const std::string kept = sShown[nLevel];
+    const KeptShow kept = sShown[nLevel];
     Cancel();
-    disp() = kept;
+    restoreDisplay(kept);
     vAcc[nLevel] = Value(displayValue());
   }
   if (!bParenValue && loud()) PubFormula(Value(displayValue()));
@@ -190,7 +202,7 @@ void OviCalc::Operator(int Index) {
     else
       vFuncX[lv] = Value(displayValue());
     PubReadout(vFuncX[lv]);
-    sShown[lv] = disp();
+    sShown[lv] = keptDisplay();
   } else {
     foldPendingPower(lv);
     if (sEntry[lv] == Entry::Nums) sgCount[lv] += 1;
@@ -198,7 +210,7 @@ void OviCalc::Operator(int Index) {
     if (sgCount[lv] == 1) {
       vAcc[lv] = Value(displayValue());
     } else if (sgCount[lv] == 2) {
-      vOperand[lv] = Value(readNumberOf(sShown[lv]));
+      vOperand[lv] = Value(keptNumber(sShown[lv]));
       if (Index < 3) {
         vAcc[lv] = PubOPX(sOp[lv], vAcc[lv], vOperand[lv]);
         if (nLastOp[lv] > Value(2)) {
@@ -285,7 +297,7 @@ void OviCalc::Operator(int Index) {
   }
   bExp = false;
   const double a = std::fabs(displayValue());
-  if (a >= 1000 && a < 1e15) disp() = Format(Value(displayValue()), "###,##0.####################");
+  if (a >= 1000 && a < 1e15) setDisp(Format(Value(displayValue()), "###,##0.####################"));
 }
 
 void OviCalc::cmdOpenP() {
@@ -312,7 +324,7 @@ void OviCalc::cmdOpenP() {
     showFormula();
   }
   colour(kBlue);
-  disp() = "0";
+  setDisp("0");
   bParenValue = false;
   const Entry held = sEntry[nLevel];
   ++nLevel;
@@ -343,7 +355,7 @@ void OviCalc::foldPendingPower(int lv) {
   vFuncY[lv] = Value(displayValue());
   vFuncX[lv] = PubOPY(static_cast<int>(sgLastOp[lv]), vFuncX[lv], vFuncY[lv]);
   PubReadout(vFuncX[lv]);
-  sShown[lv] = disp();
+  sShown[lv] = keptDisplay();
 }
 
 void OviCalc::cmdCloseP() {
@@ -360,13 +372,13 @@ void OviCalc::cmdCloseP() {
   bParenValue = true;
   bResult = false;
   if (loud()) FormulaText += " ) ";
-  sShown[lv] = disp();
+  sShown[lv] = keptDisplay();
   foldPendingPower(lv);
   if (sEntry[lv] == Entry::Nums) sgCount[lv] += 1;
   if (sgCount[lv] == 1) {
     vAcc[lv] = Value(displayValue());
   } else if (sgCount[lv] == 2) {
-    vOperand[lv] = Value(readNumberOf(sShown[lv]));
+    vOperand[lv] = Value(keptNumber(sShown[lv]));
     if (num(vOperand[lv]) == 0 && sOp[lv] == '/') {
       if (loud()) {
         warn("Can not divide by zero . ");

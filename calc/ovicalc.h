@@ -166,7 +166,6 @@ class OviCalc : public Form, public CalcState, public EngineState {
 
   // The display's value by the number rule (comma groups accepted).
   double displayValue() const;
-  static double readNumberOf(const std::string& text);
 
  private:
   void design();
@@ -200,7 +199,28 @@ class OviCalc : public Form, public CalcState, public EngineState {
   }
   void logKey(int code);
   int lastKey() const { return KeyCount > 0 ? KeyOrder[KeyCount - 1] : 99; }
-  std::string& disp() { return Readout->Caption; }
+  std::string& disp() {
+    if (pendingShow_) flushShow();
+    return Readout->Caption;
+  }
+  void flushShow();
+  void pend(double v);
+  void setDisp(std::string text) {
+    pendingShow_ = false;
+    Readout->Caption = std::move(text);
+  }
+  // The display's text is this one; a number waiting to be shown is "0"
+  // only when it is zero.
+  bool dispIs(std::string_view text) const {
+    return pendingShow_ ? pendingValue_ == 0 && text == "0" : Readout->Caption == text;
+  }
+  KeptShow keptDisplay() const;
+  void restoreDisplay(const KeptShow& kept);
+  double keptNumber(const KeptShow& kept) const;
+  // An empty display reads as 0; a number waiting to be shown is never empty.
+  void blankToZero() {
+    if (!pendingShow_ && Readout->Caption.empty()) Readout->Caption = "0";
+  }
   void colour(long c) { Readout->ForeColor = c; }
   bool chainEnded() const;
   void setFormula(std::string text);
@@ -231,8 +251,16 @@ class OviCalc : public Form, public CalcState, public EngineState {
   void pressKey(Control* c);
 
   // The display's text last read, and its value.
-  mutable std::string shownText_ = "\x01";
+  mutable std::string shownText_ = "\x01";  // no display text is this
   mutable double shownValue_ = 0;
+  // A silent replay makes the display's text once, at its end: the keys in
+  // between read only its number.
+  bool replaying_ = false, pendingShow_ = false;
+  double pendingValue_ = 0;
+  // The last number shown and what its text reads back as: keys often show
+  // again what stands.
+  mutable double readIn_ = 0, readOut_ = 0;
+  double readBack(double v) const;
   // Controls the keys touch, found once.
   Control *Readout{}, *lblFormula{}, *lblRead2{}, *txtKwal{}, *cmdDeciC{}, *SignC{}, *cmdExpC{},
       *cmdDeleteC{}, *cmdBackC{}, *CancelEntryC{}, *CancelC{}, *cmdOpenPC{}, *cmdClosePC{},

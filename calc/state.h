@@ -21,6 +21,14 @@ inline constexpr int kKeySlots = 334;
 // What the last act at a level was: an operator, or a number standing.
 enum class Entry : std::uint8_t { Ops, Nums };
 
+// The display kept at a level, to be read or put back later. A silent
+// replay keeps the number it shows; the text is made only if it is needed.
+struct KeptShow {
+  std::string text = "0";
+  double number = 0;
+  bool numeric = false;  // the display showed `number`, its text not made
+};
+
 struct CalcState {
   // The per-level record of the precedence machine.
   std::array<Value, kLevels> vAcc, vOperand, vFuncX, vFuncY, vSumHold;
@@ -29,7 +37,7 @@ struct CalcState {
   // The pending operator's caption: '+', '-', '=', 'X', '/', ' ' after a
   // closed parenthesis, or 0 for none.
   std::array<char, kLevels> sOp{};
-  std::array<std::string, kLevels> sShown;
+  std::array<KeptShow, kLevels> sShown;
   std::array<Value, kLevels> nLastOp;
   // Levels above this one still hold their start values.
   int nLevelHigh = kMaxLevel;

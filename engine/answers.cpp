@@ -91,7 +91,7 @@ void OviCalc::pubAnswerCount() {
       AnsList[AnsCount] = AnsT;
     }
   }
-  disp() = shown;
+  setDisp(shown);
   // The strip shows the memories in the face their length needs.
   scrMemChange();
   AnswerCode = 0;

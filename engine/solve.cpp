@@ -61,7 +61,7 @@ void OviCalc::cmdTsolve() {
     pubSolveUpDown();
   if (AnsCount > 0) {
     lblFormula->Caption = FormulaNote + " : " + std::to_string(AnsCount) + " Ans.";
-    disp() = "0";
+    setDisp("0");
   } else {
     lblFormula->Caption = FormulaKeep + "     find no answer ";
     PubReadout(Value(EqnTable[EqnIdx][26]));
@@ -286,7 +286,7 @@ void OviCalc::pubDoWhile() {
     if (SkipFlag > 1) ++SkipCount;
     TNow = Value(TNext);
     ++Iter;
-    if (loud()) disp() = "0";
+    if (loud()) setDisp("0");
   }
 }
 

@@ -23,6 +23,15 @@ void OviCalc::pubCOCAcola() {
   const auto& col = EqnTable[EqnIdx];
   const int last = static_cast<int>(col[29]);
   bool failed = false;
+  struct Replay {
+    OviCalc& c;
+    bool outer;
+    explicit Replay(OviCalc& calc) : c(calc), outer(calc.replaying_) { c.replaying_ = true; }
+    ~Replay() {
+      c.replaying_ = outer;
+      if (!outer && c.pendingShow_) c.flushShow();
+    }
+  } replay(*this);
   for (int i = 0; i <= last; ++i) {
     pubCola(static_cast<int>(col[30 + i]));
     failed |= ErrFlag;
@@ -74,11 +83,10 @@ void OviCalc::cmdT() {
     if (chainEnded()) pubNewT();
     if (!bResult) {
       colour(0x8000);
-      const std::string& t = disp();
-      if (sEntry[nLevel] != Entry::Nums || t == "0." || t == "0") {
+      if (sEntry[nLevel] != Entry::Nums || dispIs("0.") || dispIs("0")) {
         PubShow(*Readout, TNow);
         PubLast();
-      } else if (t == "-0." || t == "-0") {
+      } else if (dispIs("-0.") || dispIs("-0")) {
         PubShow(*Readout, -TNow);
         PubLast();
       } else {
@@ -164,7 +172,7 @@ void OviCalc::cmdTform() {
   cmdTvalueC->Enabled = true;
   KeyCopy.fill(0);
   CalcStage = 3;
-  disp() = "0";
+  setDisp("0");
   PubIniOrder();
   cmdTC->Enabled = true;
   cmdTC->BackColor = kTLit;
@@ -279,7 +287,7 @@ void OviCalc::cmdTvalue() {
   frameSlide->Visible = false;
   cmdTC->Enabled = false;
   cmdTC->BackColor = kTPale;
-  disp() = "0";
+  setDisp("0");
   PubIniOrder();
 }
 
@@ -418,7 +426,7 @@ void OviCalc::ScrFormPanel(int row) {
     FormulaKeep = FormulaText;
     cmdGraph->Caption = "Graph";
     cmdGraph->FontSize = 12;
-    disp() = Format(Value(col[26]), "0");
+    setDisp(Format(Value(col[26]), "0"));
     std::string line = FormulaText;
     const int answers = static_cast<int>(col[0]);
     for (int k = 1; k <= answers; ++k)
@@ -430,7 +438,7 @@ void OviCalc::ScrFormPanel(int row) {
       lblFormula->Caption = " Oren Vask's Mode = Mode in histogram (X3)  +  Mem(6) * Interval(d) ";
   } else {
     frameSlide->Visible = true;
-    disp() = "0";
+    setDisp("0");
     cmdGraph->Caption = "Demo Graph";
     cmdGraph->FontSize = 11;
   }

@@ -1,5 +1,6 @@
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 
@@ -9,7 +10,82 @@
 namespace tessaron {
 namespace detail {
 
+namespace {
+
+// Powers of ten a double holds exactly (5^22 < 2^53).
+constexpr double kTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                           1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+
+// |x| x 10^k as a head and a tail whose sum is exact (product) or off by far
+// less than a millionth (quotient): the fused multiply-add gives the part
+// the rounding of the head left out.
+void Scaled(double a, int k, double& head, double& tail) {
+  if (k >= 0) {
+    // Dekker's exact product, in plain arithmetic: no call on a machine
+    // without a fused multiply-add.
+    auto split = [](double x, double& hi, double& lo) {
+      const double c = 134217729.0 * x;  // 2^27 + 1
+      hi = c - (c - x);
+      lo = x - hi;
+    };
+    double ah, al, ph, pl;
+    split(a, ah, al);
+    split(kTen[k], ph, pl);
+    head = a * kTen[k];
+    tail = ((ah * ph - head) + ah * pl + al * ph) + al * pl;
+  } else {
+    head = a / kTen[-k];
+    tail = std::fma(-head, kTen[-k], a) / kTen[-k];
+  }
+}
+
+// The fifteen digits of |x| the quick way, for the magnitudes the exact
+// powers reach: away from a half the rounding of the scaled value is certain.
+// Near a half, or out of reach, it answers false and the exact conversion
+// decides.
+bool QuickDigits(double a, unsigned long long& m, int& exp10) {
+  if (!(a >= 1e-8 && a < 1e36)) return false;
+  // 2^b <= a < 2^(b+1): a first guess at the decimal exponent, one short at
+  // most.
+  std::uint64_t bits;
+  std::memcpy(&bits, &a, sizeof a);
+  const int binary = static_cast<int>((bits >> 52) & 0x7ff) - 1023;  // a is normal here
+  // floor(binary x log10 2), in integers: exact over the whole double range.
+  int e = (binary * 78913) >> 18;
+  auto reach = [&e] { return 14 - e >= -22 && 14 - e <= 22; };
+  if (!reach()) return false;
+  double head, tail;
+  Scaled(a, 14 - e, head, tail);
+  if (head >= 1e15) {
+    ++e;
+    if (!reach()) return false;
+    Scaled(a, 14 - e, head, tail);
+  }
+  if (head < 1e14 || head >= 1e15) return false;
+  double whole = std::floor(head);
+  double part = (head - whole) + tail;
+  if (part < 0) {
+    whole -= 1;
+    part += 1;
+  }
+  if (std::fabs(part - 0.5) < 1e-6 || part >= 1 || whole < 1e14) return false;
+  m = static_cast<unsigned long long>(whole) + (part > 0.5 ? 1 : 0);
+  if (m == 1000000000000000ULL) {
+    m = 100000000000000ULL;
+    ++e;
+  }
+  exp10 = e;
+  return true;
+}
+
+}  // namespace
+
 void RealDigits(double x, char digits[15], int& exp10) {
+  unsigned long long m;
+  if (QuickDigits(std::fabs(x), m, exp10)) {
+    for (int i = 14; i >= 0; --i, m /= 10) digits[i] = static_cast<char>('0' + m % 10);
+    return;
+  }
   char buf[40];
   auto res = std::to_chars(buf, buf + sizeof buf, std::fabs(x), std::chars_format::scientific, 14);
   // "d.dddddddddddddde+XX"
@@ -162,6 +238,20 @@ double TextToReal(std::string_view text) {
 }
 
 }  // namespace detail
+
+double CStrValue(double x) {
+  if (x == 0 || !std::isfinite(x)) return x == 0 ? 0 : x;
+  unsigned long long m;
+  int e;
+  if (detail::QuickDigits(std::fabs(x), m, e) && e - 14 >= -22 && e - 14 <= 22) {
+    // Fifteen digits are exact in a double, and so is the power: one
+    // rounding, the same as reading the text.
+    const double v = e >= 14 ? static_cast<double>(m) * detail::kTen[e - 14]
+                             : static_cast<double>(m) / detail::kTen[14 - e];
+    return x < 0 ? -v : v;
+  }
+  return std::strtod(detail::RealToText(x).c_str(), nullptr);
+}
 
 std::string Value::str() const { return CStr(*this); }
 

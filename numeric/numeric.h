@@ -21,6 +21,9 @@ Value CInt(const Value&);  // kind Int16, ties to even
 Value CLng(const Value&);  // kind Int32, ties to even
 float CSng(const Value&);  // positions, sizes and colours for the surface
 std::string CStr(const Value&);
+// What the CStr text of a Real reads back as, x to fifteen significant
+// digits, without making the text: a display that shows a number knows it.
+double CStrValue(double x);
 std::string Str(const Value&);  // as CStr, a blank before a non-negative number
 double Val(std::string_view text);
 bool IsNumeric(const Value&);

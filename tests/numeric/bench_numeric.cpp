@@ -54,6 +54,16 @@ void BM_CStrReal(benchmark::State& state) {
 }
 BENCHMARK(BM_CStrReal)->Name("CStr(Real)");
 
+// What a display that shows a Real reads back, without its text.
+void BM_CStrValue(benchmark::State& state) {
+  double x = 3.14159265358979;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(x);
+    benchmark::DoNotOptimize(tessaron::CStrValue(x));
+  }
+}
+BENCHMARK(BM_CStrValue)->Name("CStrValue");
+
 void BM_Format(benchmark::State& state) {
   Value x(1234567.891234);
   for (auto _ : state) {
