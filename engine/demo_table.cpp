@@ -117,6 +117,10 @@ void OviCalc::PubDemo3() {
   disp() = "0";
   cmdRad();
   DemoNumber += DemoDir;
+  // A step out of the gallery (back from demo 1 when Go Demo reopens it)
+  // comes round the walk as the keys do.
+  if (DemoNumber < 1) DemoNumber = DemoLast;
+  if (DemoNumber > 41) DemoNumber = 1;
   PubIniOrder();
   auto& col = EqnTable[kDemoSlot];
   for (int i = 0; i < 3; ++i) col[30 + i] = KeyOrder[i];

@@ -187,9 +187,13 @@ void OviCalc::pubDoGraph() {
     if (seen && (DemoSub < 1 || std::fabs(GraY1 - GraY2) < 1110) && SkipFlag < 1)
       pic.Line(GraX1, GraY1, GraX2, GraY2, kCurve);
     if (GraPrint == -1) {
+      // On paper the picture stands 1000 right and 2500 down; an end counts
+      // as inside when it is inside the picture there, so the page shows
+      // what the screen shows and no held end runs along the frame.
       const double y1 = held(GraY1 + kPrintY, 1000, 10000), y2 = held(GraY2 + kPrintY, 1000, 10000);
-      if ((within(y1, 1000, 10000) || within(y2, 1000, 10000)) && std::fabs(GraY1 - GraY2) < 3000 &&
-          SkipFlag < 1) {
+      const bool inside =
+          within(y1, kPrintY, kPrintY + kFoot) || within(y2, kPrintY, kPrintY + kFoot);
+      if (inside && std::fabs(GraY1 - GraY2) < 3000 && SkipFlag < 1) {
         PrinterDevice& printer = Printer();
         long colour = kCurve;
         printer.DrawStyle = 0;

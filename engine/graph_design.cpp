@@ -38,8 +38,8 @@ Design label(const char* name, const char* caption, int left, int top, int width
              double font = 10, bool visible = true) {
   Design d = Row(K::Label, name, -1, caption, "", left, top, width, height, kPic);
   d.fontSize = font;
+  // Clear of the picture, so that no part of the curve hides behind a label.
   d.visible = visible;
-  d.backColor = 0xFFFFFF;
   return d;
 }
 }  // namespace

@@ -189,13 +189,16 @@ void OviCalc::PubGraPrint() {
   printer.Print({Value("Y = " + titleText(text))});
   if (DemoSub == 5) {
     printer.FontSize = 20;
+    printer.CurrentX = kFrameLeft;
     printer.Print({Value("Max. at X = " + Format(Value(pubVaskPeak()), "0.###"))});
   }
   printer.FontSize = 12;
   const auto& col = EqnTable[EqnIdx];
-  for (int k = 1; k <= static_cast<int>(col[0]); ++k)
+  for (int k = 1; k <= static_cast<int>(col[0]); ++k) {
+    printer.CurrentX = kFrameLeft;
     printer.Print(
         {Value("  Ans. # "), Value(Format(Value(k), "##")), Value(": "), Value(col[2 * k - 1])});
+  }
 }
 
 }  // namespace tessaron
