@@ -103,7 +103,11 @@ void OviCalc::PubGraph() {
       CalcStage = 5;
       TPrev = TValue.number();
       TNow = TValue;
+      // The domain scan leaves the prefixes as it found them part way down
+      // the list; T's own point starts clear, as every point of the trace.
+      Cancel();
       ErrFlag = false;
+      greyPrefixes();
       pubCOCAcola();
       if (ErrFlag) {
         MsgBox("  Not work with Initial T value  - better adjust it ???  ", 48, " Vantor Calc");
