@@ -1,6 +1,7 @@
 // The graph of f(T): traced outward from the slot's T in two passes, one to
 // the right and one to the left, by pressing the function's keys again at
 // steps of 20 picture units. No points are kept: each step draws one segment.
+#include <algorithm>
 #include <cmath>
 
 #include "calc/ovicalc.h"

@@ -1,6 +1,7 @@
 // What stands round the curve: its title, the Y axis at the origin, the
 // square that shows the scale (or the demos' box), the Pi/2 line of the arc
 // secant; the keys that move and zoom the view; and the graph's printout.
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
