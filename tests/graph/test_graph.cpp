@@ -211,4 +211,26 @@ TEST_F(UserGraph, PrintNoPrintsNothingAndYesPrintsThePage) {
   EXPECT_TRUE(c("picGraph").Visible);
 }
 
+// On paper the picture stands 1000 right and 2500 down, and the page shows
+// what the screen shows: an end held at the picture's edge never carries a
+// segment alone, so no line runs along the frame where the curve is off it.
+TEST_F(UserGraph, ThePrintedCurveIsTheScreensMovedOntoThePage) {
+  graph("T x2 - 2");
+  const auto screen = segments();
+  host.answers.push_back(6);
+  app.click(c("cmdGraPrint"));
+  ASSERT_EQ(host.jobs.size(), 1u);
+  std::vector<Seg> paper;
+  for (const DrawOp& op : calc->Printer().lastJob().pages.front().ops)
+    if (op.kind == DrawOp::Kind::Line && op.colour == Rgb(0, 0, 255))
+      paper.push_back({op.x1, op.y1, op.x2, op.y2});
+  ASSERT_EQ(paper.size(), screen.size());
+  for (size_t i = 0; i < paper.size(); ++i) {
+    EXPECT_EQ(paper[i].x1, screen[i].x1 + 1000);
+    EXPECT_EQ(paper[i].y1, screen[i].y1 + 2500);
+    EXPECT_EQ(paper[i].x2, screen[i].x2 + 1000);
+    EXPECT_EQ(paper[i].y2, screen[i].y2 + 2500);
+  }
+}
+
 }  // namespace tessaron::test
