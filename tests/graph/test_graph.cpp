@@ -7,6 +7,7 @@
 namespace tessaron::test {
 
 namespace {
+constexpr double kPi = 3.14159265358979323846;
 // y of the true curve in the default view, for one T.
 double yAt(double f) { return 3000 - 900 * f; }
 }  // namespace
@@ -112,6 +113,25 @@ TEST_F(UserGraph, AFailedPointIsSkippedWithBothItsSegments) {
     for (auto [x, y] : {std::pair{s.x1, s.y1}, std::pair{s.x2, s.y2}})
       if (y >= 3000) EXPECT_GE(std::fabs(x - 5000), 1799) << x;
   }
+}
+
+// sqrt(sin T) in radians fails where the sine is negative, which no key of
+// its list tells the domain scan: the trace walks through the failing
+// stretch and out again. The first point past it is not joined to the last
+// failed one: every end stands where the sine is not negative.
+TEST_F(UserGraph, TheTraceComesOutOfAFailingStretchWithoutAFalseSegment) {
+  graph("T sin sqrt", "Rad");
+  const auto drawn = segments();
+  bool beyond = false;
+  for (const Seg& s : drawn)
+    for (double x : {s.x1, s.x2}) {
+      // Some T of the end's column has a sine of 0 or more.
+      const double t = (x - 5000) / 900;
+      EXPECT_GE(std::max(std::sin(t), std::sin(t + 1.0 / 900)), 0) << "an end at T " << t;
+      beyond |= t < -kPi;
+    }
+  // The curve goes on past the stretch where it fails.
+  EXPECT_TRUE(beyond);
 }
 
 // For a user's function a jump is drawn: 0.03 / (T^2 - 2) jumps across its
