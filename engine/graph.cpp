@@ -109,12 +109,12 @@ void OviCalc::PubGraph() {
       Cancel();
       ErrFlag = false;
       greyPrefixes();
-      pubCOCAcola();
+      const double atT = evalAt(TPrev);
       if (ErrFlag) {
         MsgBox("  Not work with Initial T value  - better adjust it ???  ", 48, " Vantor Calc");
         continue;
       }
-      FPrev = readF();
+      FPrev = atT;
       if (pass == 2) StepBase = -StepBase;
       SkipCount = 0;
       CrossTries = PlateauTries = 0;
@@ -171,11 +171,10 @@ void OviCalc::pubDoGraph() {
     Cancel();
     ErrFlag = false;
     greyPrefixes();
-    pubCOCAcola();
+    FNext = evalAt(TNext);
     const bool failed = ErrFlag;
     if (failed || failedBefore) SkipFlag = 2;
     failedBefore = failed;
-    FNext = readF();
 
     GraX1 = GraX0 + GraScale * TPrev;
     GraY1 = GraY0 - GraScale * FPrev;
