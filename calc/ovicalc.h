@@ -198,7 +198,6 @@ class OviCalc : public Form, public CalcState, public EngineState, public GraphS
   void engineRoutes();
   void engineLoad();
   void graphRoutes();
-  Control& graphKey(std::string_view name) { return control(name); }
   // The engine's ends of "=": the capture's check before the result and the
   // store or the new T after it.
   void pubCaptureCheck();
