@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "calc/ovicalc.h"
+#include "engine/graph_design.h"
 #include "surface/application.h"
 
 namespace tessaron {
@@ -292,14 +293,8 @@ std::vector<Design> table() {
                .width = 960,
                .height = 5160,
                .visible = false});
-  t.push_back({.kind = K::PictureBox,
-               .name = "picGraph",
-               .left = 240,
-               .top = 240,
-               .width = 7000,
-               .height = 4800,
-               .visible = false,
-               .backColor = 0xFFFFFF});
+  // The graph's picture and keys cover the face while a graph is up.
+  graphDesign(t);
   return t;
 }
 }  // namespace
@@ -429,8 +424,8 @@ void OviCalc::Load() {
   Top = 1920;
   Width = 11640;
   Height = 6060;
-  picGraph->Left = 240;
-  picGraph->Top = 240;
+  picGraph->Left = 60;
+  picGraph->Top = 60;
   picGraph->Visible = false;
 
   vPi = Value(4 * Atn(1));

@@ -7,12 +7,13 @@
 #include <string_view>
 
 #include "calc/state.h"
+#include "engine/graph_state.h"
 #include "engine/state.h"
 #include "surface/form.h"
 
 namespace tessaron {
 
-class OviCalc : public Form, public CalcState, public EngineState {
+class OviCalc : public Form, public CalcState, public EngineState, public GraphState {
  public:
   explicit OviCalc(Application& app);
   void Load() override;
@@ -122,6 +123,29 @@ class OviCalc : public Form, public CalcState, public EngineState {
   void PubAnswerWrite();
   void pubAnswerCount();
 
+  // The graph of the slot in hand and the demo gallery.
+  void cmdGraphClick();
+  void cmdExitGraph();
+  void cmdYaxLeft();
+  void cmdYaxRite();
+  void cmdZoomPlus();
+  void cmdZoomMinus();
+  void cmdGraPrint();
+  void PubGraph();
+  void PubCircle();
+  void pubDoGraph();
+  void PubGraPrint();
+  void PubDemo();
+  void PubDemo3();
+  void cmdGoNext();
+  void cmdPrior();
+  void cmdGoDemo();
+  // The histogram mode's curve (key code 145), its peak and its text, as
+  // demo 41 draws and titles them.
+  void pubVaskCurve();
+  double pubVaskPeak() const;
+  std::string pubVaskText() const;
+
   // The clipboard and the printout.
   void cmdCopy();
   void cmdPaste();
@@ -172,6 +196,7 @@ class OviCalc : public Form, public CalcState, public EngineState {
   void routes();
   void engineRoutes();
   void engineLoad();
+  void graphRoutes();
   // The engine's ends of "=": the capture's check before the result and the
   // store or the new T after it.
   void pubCaptureCheck();

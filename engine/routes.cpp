@@ -27,10 +27,10 @@ void OviCalc::engineRoutes() {
   cmdPasteXC = &control("cmdPasteX");
   cmdGoCalcC = &control("cmdGoCalc");
   txtCopy = &control("txtCopy");
-  // The aids and the graph come with their own work: until then their keys
-  // are grey, not silent.
+  // The aids come with their own work: until then their key is grey, not
+  // silent.
   cmdAssist->Enabled = false;
-  cmdGraph->Enabled = false;
+  graphRoutes();
 }
 
 }  // namespace tessaron

@@ -263,6 +263,9 @@ void OviCalc::pubEqnStore() {
   cmdTformC->Enabled = true;
   cmdTvalueC->Enabled = true;
   solveKeys();
+  // A new function is seen first at the graph's own scale and origin.
+  GraScale = 900;
+  GraX0 = 5000;
 }
 
 void OviCalc::cmdTvalue() {
@@ -456,10 +459,6 @@ void OviCalc::cmdGoCalc() {
   cmdTeqnC->Visible = true;
   app().show(app().form("frmMain"));
 }
-
-// The demos press their own routine on the display's text; they arrive with
-// the demos, and until then their codes press nothing.
-void OviCalc::pubDemoCode(int code) { (void)code; }
 
 void OviCalc::engineLoad() {
   for (auto& col : EqnTable) col[25] = TValue.number();

@@ -133,11 +133,15 @@ TEST_F(EngineTest, TheSlotBarWalksTheFunctions) {
   EXPECT_FALSE(c("cmdTcalcu").Enabled);
 }
 
-TEST_F(EngineTest, TheAidsAndTheGraphStayGrey) {
+TEST_F(EngineTest, TheAidsStayGreyAndTheGraphIsLive) {
   EXPECT_FALSE(c("cmdAssist").Enabled);
-  EXPECT_FALSE(c("cmdGraph").Enabled);
+  // The graph is live: the gallery with no function, the function's graph
+  // once one is stored.
+  EXPECT_TRUE(c("cmdGraph").Enabled);
+  EXPECT_EQ(c("cmdGraph").Caption, "Demo Graph");
   function("T");
-  EXPECT_FALSE(c("cmdGraph").Enabled);
+  EXPECT_TRUE(c("cmdGraph").Enabled);
+  EXPECT_EQ(c("cmdGraph").Caption, "Graph");
 }
 
 }  // namespace tessaron::test
