@@ -27,10 +27,10 @@ void OviCalc::engineRoutes() {
   cmdPasteXC = &control("cmdPasteX");
   cmdGoCalcC = &control("cmdGoCalc");
   txtCopy = &control("txtCopy");
-  // The aids and the graph come with their own work: until then their keys
-  // are grey, not silent.
-  cmdAssist->Enabled = false;
+  // The graph comes with its own work: until then its key is grey, not
+  // silent.
   cmdGraph->Enabled = false;
+  assistRoutes();
 }
 
 }  // namespace tessaron

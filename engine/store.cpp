@@ -450,8 +450,11 @@ void OviCalc::cmdGoCalc() {
 }
 
 // The demos press their own routine on the display's text; they arrive with
-// the demos, and until then their codes press nothing.
-void OviCalc::pubDemoCode(int code) { (void)code; }
+// the demos, and until then their codes press nothing but the histogram's
+// curve.
+void OviCalc::pubDemoCode(int code) {
+  if (code == 145) ModeVask();
+}
 
 void OviCalc::engineLoad() {
   for (auto& col : EqnTable) col[25] = TValue.number();
