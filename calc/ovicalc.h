@@ -138,6 +138,7 @@ class OviCalc : public Form, public CalcState, public EngineState, public Assist
   // a refusal, the sums.
   enum class SumEnd { Done, Error, TooBig };
   bool aidEval(double t, double& f);
+  bool probeEval(double t, double& f);
   void aidAnswer(double value);
   void aidMessage(const char* text);
   double aidRound(double value, bool closed) const;

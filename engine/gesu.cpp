@@ -4,10 +4,12 @@
 // 10,001.
 #include <cmath>
 #include <numbers>
+#include <vector>
 
 #include "calc/ovicalc.h"
 #include "engine/assist_math.h"
 #include "engine/rounding.h"
+#include "numeric/failure.h"
 
 namespace tessaron {
 
@@ -272,6 +274,90 @@ Trial fitFamily(const Family& fam, const GesuSamples& s, double tiny) {
   return {};
 }
 
+// The coefficients fitted on a few samples carry those samples' last digit;
+// a least-squares pass over all eighteen (Gauss-Newton, three rounds) takes
+// the closed forms to the display's digits.
+std::vector<double*> freeParams(Shape& sh) {
+  switch (sh.no) {
+    case 1:
+      return {&sh.b, &sh.c};
+    case 3:
+      return {&sh.a, &sh.b, &sh.c};
+    case 4:
+      return {&sh.a, &sh.b, &sh.c, &sh.d};
+    case kGesuCircle:
+      return {&sh.a};
+    default:
+      break;
+  }
+  if (kFamilies[sh.no - 1].fit == Fit::Fixed) return {&sh.a, &sh.c};
+  return {&sh.a, &sh.b, &sh.c};
+}
+
+double squares(const Shape& sh, const GesuSamples& s) {
+  double sum = 0;
+  for (size_t i = 0; i < s.t.size(); ++i) {
+    const double r = ShapeValue(sh, s.t[i]) - s.f[i];
+    sum += r * r;
+  }
+  return sum;
+}
+
+// Solves m x = v by elimination with pivoting; false when singular.
+bool solve(std::vector<std::vector<double>> m, std::vector<double> v, std::vector<double>& x) {
+  const size_t n = v.size();
+  for (size_t c = 0; c < n; ++c) {
+    size_t p = c;
+    for (size_t r = c + 1; r < n; ++r)
+      if (std::fabs(m[r][c]) > std::fabs(m[p][c])) p = r;
+    if (m[p][c] == 0) return false;
+    std::swap(m[p], m[c]);
+    std::swap(v[p], v[c]);
+    for (size_t r = c + 1; r < n; ++r) {
+      const double q = m[r][c] / m[c][c];
+      for (size_t k = c; k < n; ++k) m[r][k] -= q * m[c][k];
+      v[r] -= q * v[c];
+    }
+  }
+  x.assign(n, 0);
+  for (size_t c = n; c-- > 0;) {
+    double sum = v[c];
+    for (size_t k = c + 1; k < n; ++k) sum -= m[c][k] * x[k];
+    x[c] = sum / m[c][c];
+  }
+  return true;
+}
+
+void polish(Shape& sh, const GesuSamples& s) {
+  for (int round = 0; round < 3; ++round) {
+    Shape trial = sh;
+    const auto params = freeParams(trial);
+    const size_t n = params.size(), m = s.t.size();
+    std::vector<std::vector<double>> jac(m, std::vector<double>(n));
+    std::vector<double> res(m);
+    for (size_t i = 0; i < m; ++i) res[i] = ShapeValue(trial, s.t[i]) - s.f[i];
+    for (size_t j = 0; j < n; ++j) {
+      const double keep = *params[j];
+      const double step = 1e-7 * std::max(std::fabs(keep), 1e-3);
+      *params[j] = keep + step;
+      for (size_t i = 0; i < m; ++i)
+        jac[i][j] = (ShapeValue(trial, s.t[i]) - s.f[i] - res[i]) / step;
+      *params[j] = keep;
+    }
+    std::vector<std::vector<double>> jtj(n, std::vector<double>(n, 0));
+    std::vector<double> jtr(n, 0), delta;
+    for (size_t i = 0; i < m; ++i)
+      for (size_t j = 0; j < n; ++j) {
+        jtr[j] -= jac[i][j] * res[i];
+        for (size_t k = 0; k < n; ++k) jtj[j][k] += jac[i][j] * jac[i][k];
+      }
+    if (!solve(jtj, jtr, delta)) return;
+    for (size_t j = 0; j < n; ++j) *params[j] += delta[j];
+    if (!(squares(trial, s) < squares(sh, s))) return;
+    sh = trial;
+  }
+}
+
 // A coefficient that is a whole number of thousandths.
 bool round3(double x) {
   const double m = x * 1000;
@@ -318,29 +404,46 @@ Shape FindShape(const GesuSamples& s, bool& fallback) {
       bestRound = r;
     }
   }
-  if (bestRound >= 0) return best;
+  if (bestRound >= 0) {
+    polish(best, s);
+    return best;
+  }
   for (int no : {33, 5}) {
     const Trial tr = fitFamily(kFamilies[no - 1], s, tiny);
     if (tr.ok && holds(tr.s, s, kLooseTol)) {
       fallback = true;
-      return tr.s;
+      Shape sh = tr.s;
+      polish(sh, s);
+      return sh;
     }
   }
   return {};
 }
 
+// The probes at 0, at 100 on both sides and far out lie outside the user's
+// range: a number too large for a kernel there marks the probe as failed
+// instead of ending the program.
+bool OviCalc::probeEval(double t, double& f) {
+  try {
+    return aidEval(t, f);
+  } catch (const Failure&) {
+    ErrFlag = true;
+    return false;
+  }
+}
+
 void OviCalc::FindGesu() {
   GesuSamples s;
   double f = 0;
-  s.zeroOk = aidEval(0, f);
+  s.zeroOk = probeEval(0, f);
   GesuZero = s.zeroOk ? f : 0;
   s.zero = GesuZero;
   s.degree = bDegree;
-  s.negOk = aidEval(-100, f);
+  s.negOk = probeEval(-100, f);
   s.degree = s.degree || bDegree;
   double far1 = 0, far2 = 0;
-  aidEval(100, f);
-  const bool ok1 = aidEval(-1e22, far1), ok2 = aidEval(1e22, far2);
+  probeEval(100, f);
+  const bool ok1 = probeEval(-1e22, far1), ok2 = probeEval(1e22, far2);
   s.farOk = ok1 && ok2 && std::fabs(far1) < 1e15 && std::fabs(far2) < 1e15;
   s.farMean = (far1 + far2) / 2;
   const double m1 = vMemory[1].number(), m2 = vMemory[2].number();
