@@ -121,9 +121,10 @@ double g(int no, double u) {
   }
 }
 
-// Tolerances relative to the largest sample: the ordinary test, and the
-// looser one of the two fall-backs.
-constexpr double kTol = 1e-11, kLooseTol = 1e-8;
+// Tolerances relative to the largest sample: the ordinary test, the looser
+// one of the two fall-backs, and the rough one a first fit must pass before
+// it is polished over all the samples.
+constexpr double kTol = 1e-11, kLooseTol = 1e-10, kRoughTol = 1e-6;
 
 struct Trial {
   Shape s;
@@ -155,8 +156,18 @@ bool fitLinear(const Family& fam, double k, const GesuSamples& s, Shape& sh) {
     sh.a = (s.f[0] - s.farMean) / (g0 - fam.mid);
     sh.c = s.farMean - sh.a * fam.mid;
   } else {
-    const double g1 = g(fam.no, k * s.t[1]);
-    sh.a = (s.f[1] - s.f[0]) / (g1 - g0);
+    // Through sample 0 and the one where g differs most from it: the far
+    // end, unless an even shape comes back to its value there.
+    int j = 17;
+    double gj = g(fam.no, k * s.t[17]);
+    for (int i : {12, 8}) {
+      const double gi = g(fam.no, k * s.t[i]);
+      if (std::fabs(gi - g0) > std::fabs(gj - g0)) {
+        j = i;
+        gj = gi;
+      }
+    }
+    sh.a = (s.f[j] - s.f[0]) / (gj - g0);
     sh.c = s.f[0] - sh.a * g0;
   }
   return std::isfinite(sh.a) && std::isfinite(sh.c);
@@ -227,7 +238,7 @@ Trial fitScaled(const Family& fam, const GesuSamples& s, double tiny) {
   Trial tr;
   auto residual = [&](double k, Shape& sh) -> double {
     if (!fitLinear(fam, k, s, sh)) return std::nan("");
-    const int at = fam.level && s.farOk ? 1 : 2;
+    const int at = 5;
     return ShapeValue(sh, s.t[at]) - s.f[at];
   };
   for (double start : {1.0, pi / 180, 0.5, 2.0, 0.1, 10.0}) {
@@ -244,7 +255,7 @@ Trial fitScaled(const Family& fam, const GesuSamples& s, double tiny) {
     }
     if (!std::isfinite(r1) || std::fabs(k1) < tiny) continue;
     residual(k1, sh);
-    if (std::fabs(sh.a) >= tiny && holds(sh, s, kTol)) return {sh, true};
+    if (std::fabs(sh.a) >= tiny && holds(sh, s, kRoughTol)) return {sh, true};
   }
   return tr;
 }
@@ -396,25 +407,24 @@ Shape FindShape(const GesuSamples& s, bool& fallback) {
     for (int n = 20; n <= kGesuHypotheses; ++n) alive[n] = false;
   for (const Family& fam : kFamilies) {
     if (!alive[fam.no]) continue;
-    const Trial tr = fitFamily(fam, s, tiny);
-    if (!tr.ok || !holds(tr.s, s, kTol)) continue;
+    Trial tr = fitFamily(fam, s, tiny);
+    if (!tr.ok || !holds(tr.s, s, kRoughTol)) continue;
+    polish(tr.s, s);
+    if (!holds(tr.s, s, kTol)) continue;
     const int r = roundness(tr.s);
     if (r > bestRound) {
       best = tr.s;
       bestRound = r;
     }
   }
-  if (bestRound >= 0) {
-    polish(best, s);
-    return best;
-  }
+  if (bestRound >= 0) return best;
   for (int no : {33, 5}) {
-    const Trial tr = fitFamily(kFamilies[no - 1], s, tiny);
-    if (tr.ok && holds(tr.s, s, kLooseTol)) {
+    Trial tr = fitFamily(kFamilies[no - 1], s, tiny);
+    if (!tr.ok || !holds(tr.s, s, kRoughTol)) continue;
+    polish(tr.s, s);
+    if (holds(tr.s, s, kLooseTol)) {
       fallback = true;
-      Shape sh = tr.s;
-      polish(sh, s);
-      return sh;
+      return tr.s;
     }
   }
   return {};

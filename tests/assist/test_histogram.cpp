@@ -79,9 +79,14 @@ TEST_F(Histogram, TwoEqualHighBarsMeetHalfway) {
   bars({2, 5, 5, 3, 1});
   aid("cmdVaskMode");
   EXPECT_EQ(memory(6), -0.5);
-  bars({1, 3, 5, 5, 2});
+  bars({1, 3, 5, 5, 4});
   aid("cmdVaskMode");
   EXPECT_EQ(memory(6), 0.5);
+  // A right half that ends lower than the left's second bar turns the
+  // amendment off: (M5 - M2) * 0.5 is below 0.
+  bars({1, 3, 5, 5, 2});
+  aid("cmdVaskMode");
+  EXPECT_EQ(memory(6), 0);
 }
 
 TEST_F(Histogram, ALopsidedCurveOffersItsGraph) {
