@@ -130,7 +130,7 @@ void OviCalc::cmdVaskMode() {
     MsgBox(" Amending part = Interval (d)  x  Memory(6). ", 48, " Vantor Calc");
     return;
   }
-  if (MsgBox(" Amending Part = Interval (d)  x  Memory(6).       See Graph??   ", kYesNo + 48,
+  if (MsgBox(" Amending Part = Interval (d)  x  Memory(6).       See Graph??   ", kYesNo,
              " Vantor Calc") == kYes)
     pubModeGraph();
 }

@@ -95,7 +95,7 @@ TEST_F(Histogram, ALopsidedCurveOffersItsGraph) {
   aid("cmdVaskMode");
   EXPECT_NE(memory(6), 0);
   EXPECT_EQ(lastBox(), " Amending Part = Interval (d)  x  Memory(6).       See Graph??   ");
-  EXPECT_EQ(host.boxes.back().flags, 52);
+  EXPECT_EQ(host.boxes.back().flags, 4);
 }
 
 TEST_F(Histogram, ThreeBarsAndTheirInterval) {
