@@ -139,7 +139,7 @@ class OviCalc : public Form, public CalcState, public EngineState, public Assist
   enum class SumEnd { Done, Error, TooBig };
   bool aidEval(double t, double& f);
   bool probeEval(double t, double& f);
-  void aidAnswer(double value);
+  bool aidAnswer(double value);
   void aidMessage(const char* text);
   double aidRound(double value, bool closed) const;
   void assistRefuse(std::string_view text);

@@ -138,7 +138,13 @@ bool OviCalc::aidEval(double t, double& f) {
   return !ErrFlag && std::isfinite(f);
 }
 
-void OviCalc::aidAnswer(double value) {
+// An answer past what a number holds is no answer: the aid says so, and
+// memory 3 keeps what it had.
+bool OviCalc::aidAnswer(double value) {
+  if (!std::isfinite(value)) {
+    aidMessage(" Too Big  ...!!! e ");
+    return false;
+  }
   CalcStage = 4;
   PubReadout(Value(value));
   frameRD->Enabled = true;
@@ -146,6 +152,7 @@ void OviCalc::aidAnswer(double value) {
   MMMsubKey(3);
   MMMinKey(3);
   lblFormula->Caption = EqnText[EqnIdx];
+  return true;
 }
 
 double Cramer(double a1, double b1, double c1, double a2, double b2, double c2, double a3,
@@ -181,7 +188,7 @@ void OviCalc::cmdSlope() {
     return PubAssistNew();
   }
   const double slope = RoundX(7, left && right ? (sl + sr) / 2 : left ? sl : sr);
-  aidAnswer(slope);
+  if (!aidAnswer(slope)) return;
   std::string text;
   if (left && right) {
     text = slope > 1e5    ? " Slope at Memory 3.  +Infinity??? "

@@ -109,7 +109,10 @@ void OviCalc::cmdIntegral() {
     value = RoundX(13, value);
   else
     value = wide ? round4(value) : RoundX(6, value);
-  aidAnswer(value);
+  if (!aidAnswer(value)) {
+    AssistBusy = false;
+    return;
+  }
   const bool rough = !closed && wide;
   std::string text;
   if (!same)
@@ -155,7 +158,7 @@ void OviCalc::cmdLength() {
       prev = f;
     }
   }
-  aidAnswer(length);
+  if (!aidAnswer(length)) return;
   MsgBox(" Length  is  at   Memory(3).   ", 48, " Vantor Calc");
   PubAssistNew();
 }

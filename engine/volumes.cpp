@@ -52,7 +52,7 @@ void OviCalc::cmdXCyl() {
     if (end == SumEnd::TooBig) return aidMessage(" Too Big  ...!!! e ");
   }
   value = aidRound(std::fabs(value * vPi.number()), closed);
-  aidAnswer(value);
+  if (!aidAnswer(value)) return;
   aidMessage(!closed && std::fabs(IntTo - IntFrom) > 200
                  ? " Too wide range (recomend <101). Answer  at Memory(3)  is rough. "
                  : " Volume rotating X-axis is at   Memory(3).   ");
@@ -102,7 +102,7 @@ void OviCalc::cmdYCol() {
     }
   }
   value = aidRound(std::fabs(value * vPi.number()), closed);
-  aidAnswer(value);
+  if (!aidAnswer(value)) return;
   aidMessage(!closed && std::fabs(IntTo - IntFrom) > 200
                  ? " Too wide range. Answer at Memory(3)  is rough.   "
                  : " Volume rotating Y-axis is at   Memory(3).   ");
@@ -149,7 +149,7 @@ void OviCalc::surfaceOfRevolution(bool aboutY) {
       prev = f;
     }
   }
-  aidAnswer(value);
+  if (!aidAnswer(value)) return;
   aidMessage(aboutY ? " Surface rotating Y-axis  is  at   Memory(3).   "
                     : " Surface rotating X-axis  is  at   Memory(3).   ");
 }

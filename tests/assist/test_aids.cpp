@@ -1,6 +1,7 @@
 // The aids' edge cases and refusals, each with its message in its words.
 #include <cmath>
 #include <numbers>
+#include <vector>
 
 #include "assist_fixture.h"
 
@@ -252,6 +253,54 @@ TEST_F(AssistTest, NoSlopeOnEitherSide) {
   host.inputs.push_back("0");
   aid("cmdSlope");
   EXPECT_EQ(lastBox(), " No Slope !!!  ");
+}
+
+}  // namespace tessaron::test
+
+namespace tessaron::test {
+
+// A demo in slot 33: its own closed form, whatever its keys give.
+class DemoAid : public AssistTest {
+ protected:
+  void demo(int number, std::vector<int> keys) {
+    auto& col = calc->EqnTable[kDemoSlot];
+    const std::vector<int> header = {32, 42, 99};
+    keys.insert(keys.begin(), header.begin(), header.end());
+    keys.push_back(22);
+    for (size_t i = 0; i < keys.size(); ++i) col[30 + i] = keys[i];
+    col[29] = static_cast<double>(keys.size() - 1);
+    col[28] = 4;
+    calc->EqnText[kDemoSlot] = " demo ";
+    calc->DemoNumber = number;
+    c("ScrForm").setValue(Value(kDemoSlot));
+  }
+};
+
+TEST_F(DemoAid, TheSquaresDemoIntegratesInClosedForm) {
+  demo(3, {33, 52});
+  range(0, 3);
+  const long before = calc->EvalCount;
+  aid("cmdIntegral");
+  EXPECT_EQ(memory(3), 9);
+  // The ends only: no recogniser, no sums.
+  EXPECT_EQ(calc->EvalCount - before, 2);
+}
+
+// Rayleigh's curve is drawn five times higher; its integral is that of the
+// distribution itself.
+TEST_F(DemoAid, RayleighsDemoIsTheDistributionsIntegral) {
+  demo(39, {33});
+  range(0, 2);
+  aid("cmdIntegral");
+  EXPECT_NEAR(memory(3), 1 - std::exp(-2.0), 1e-12);
+}
+
+TEST_F(DemoAid, TToTheTHasNoClosedFormAndIsSummed) {
+  demo(11, {33, 27, 33});
+  range(1, 2);
+  aid("cmdIntegral");
+  // Integral of T^T from 1 to 2 is 2.050446234...
+  EXPECT_NEAR(memory(3), 2.05045, 1e-5);
 }
 
 }  // namespace tessaron::test
