@@ -303,4 +303,17 @@ TEST_F(DemoAid, TToTheTHasNoClosedFormAndIsSummed) {
   EXPECT_NEAR(memory(3), 2.05045, 1e-5);
 }
 
+// The scaled demo curves (above 35) are drawn five times higher: the sums
+// divide f by 5, so the volume's square is divided by 25 once, not again.
+TEST_F(DemoAid, AScaledDemoIsMeasuredAtItsTrueHeight) {
+  // T^4 stands for the curve: no shape, so the sums run.
+  demo(40, {33, 52, 52});
+  range(0, 3);
+  aid("cmdIntegral");
+  EXPECT_EQ(calc->GesuNo, kGesuNone);
+  EXPECT_NEAR(memory(3), 48.6 / 5, 1e-5);
+  aid("cmdXCyl");
+  EXPECT_NEAR(memory(3), std::numbers::pi * 2187 / 25, 1e-3);
+}
+
 }  // namespace tessaron::test
