@@ -293,6 +293,26 @@ std::vector<Design> table() {
                .width = 960,
                .height = 5160,
                .visible = false});
+  const char* const aids[][3] = {
+      {"cmdSlope", "Slope", " Slope at X = ?, of the graph "},
+      {"cmdIntegral", "Integral", " Integral between X = M(1) ~ M(2) "},
+      {"cmdLength", "Length", " Length of curve between X = M(1) ~ M(2) "},
+      {"cmdXCyl", "X-Vol", " Volume between X = M(1) ~ M(2), Rotating X-axis "},
+      {"cmdYCol", "Y-Vol", " Volume between X = M(1) ~ M(2), Rotating Y-axis "},
+      {"cmdXsurf", "X-Surf", " Surface between X = M(1) ~ M(2), Rotating Y-axis "},
+      {"cmdYsurf", "Y-Surf", " Surface between X = M(1) ~ M(2), Rotating Y-axis "},
+      {"cmdMinMax", "   Max  /  Min ", " Min/Max between X = M(1) ~ M(2) "},
+      {"cmdVaskMode", " Vask's  Mode ",
+       " Calculate better mode: Put Y1~Y5 to M(1)~M(5), Y(3)=Highest "},
+      {"cmdVaskMode2", " Vask's Mode2",
+       " Calculate better mode: Put Y1,Y2(Hi),Y3, Interval at Mem.(1,2,3,4). "},
+      {"cmdExitAssist", "Close", " Close Assist "}};
+  for (int i = 0; i < 11; ++i) {
+    Design d = key(aids[i][0], -1, aids[i][1], aids[i][2], 30, 60 + i * 460, 900, 8);
+    d.height = 420;
+    d.container = "frameAssist";
+    t.push_back(d);
+  }
   // The graph's picture and keys cover the face while a graph is up.
   graphDesign(t);
   return t;

@@ -7,13 +7,20 @@
 #include <string_view>
 
 #include "calc/state.h"
+#include "engine/assist_state.h"
 #include "engine/graph_state.h"
 #include "engine/state.h"
 #include "surface/form.h"
 
 namespace tessaron {
 
-class OviCalc : public Form, public CalcState, public EngineState, public GraphState {
+struct Shape;
+
+class OviCalc : public Form,
+                public CalcState,
+                public EngineState,
+                public GraphState,
+                public AssistState {
  public:
   explicit OviCalc(Application& app);
   void Load() override;
@@ -107,6 +114,47 @@ class OviCalc : public Form, public CalcState, public EngineState, public GraphS
   void PubDomainTrig3();
   void pubDomainFront();
   void pubDomainRear();
+
+  // The calculus aids of the Assist box, between memory 1 and memory 2.
+  void cmdAssistKey();
+  void cmdExitAssist();
+  void PubAssistNew();
+  void PubAssistSetUp();
+  void PubAssistSlopeSetUp();
+  void PubContiCk();
+  void FindGesu();
+  void cmdSlope();
+  void cmdIntegral();
+  void cmdLength();
+  void cmdXCyl();
+  void cmdYCol();
+  void cmdXsurf();
+  void cmdYsurf();
+  void cmdMinMax();
+  void PubMxMnDetail(double h);
+  void ZMaxMin3();
+  void ZMaxMin5();
+  void cmdVaskMode();
+  void cmdVaskMode2();
+  void pubModeGraph();
+  // The histogram's curve at the display's value: the demo key 145.
+  void ModeVask();
+  // The aids' shared acts: one silent evaluation, the answer to memory 3,
+  // a refusal, the sums.
+  enum class SumEnd { Done, Error, TooBig };
+  bool aidEval(double t, double& f);
+  bool probeEval(double t, double& f);
+  bool aidAnswer(double value);
+  void aidMessage(const char* text);
+  double aidRound(double value, bool closed) const;
+  void assistRefuse(std::string_view text);
+  void aidKeysColour();
+  Shape gesuShape() const;
+  bool demoShape(Shape& s) const;
+  SumEnd simpsonSum(bool square, double& value, bool& same);
+  void surfaceOfRevolution(bool aboutY);
+  double flatMiddle(double x, double y, bool low);
+  void assistRoutes();
 
   // The root finder and its answers.
   void cmdTsolve();

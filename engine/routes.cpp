@@ -27,10 +27,8 @@ void OviCalc::engineRoutes() {
   cmdPasteXC = &control("cmdPasteX");
   cmdGoCalcC = &control("cmdGoCalc");
   txtCopy = &control("txtCopy");
-  // The aids come with their own work: until then their key is grey, not
-  // silent.
-  cmdAssist->Enabled = false;
   graphRoutes();
+  assistRoutes();
 }
 
 }  // namespace tessaron

@@ -133,10 +133,10 @@ TEST_F(EngineTest, TheSlotBarWalksTheFunctions) {
   EXPECT_FALSE(c("cmdTcalcu").Enabled);
 }
 
-TEST_F(EngineTest, TheAidsStayGreyAndTheGraphIsLive) {
-  EXPECT_FALSE(c("cmdAssist").Enabled);
-  // The graph is live: the gallery with no function, the function's graph
-  // once one is stored.
+// No key on the face is dead: the aids and the graph are live, the graph
+// showing the gallery until a function is stored.
+TEST_F(EngineTest, TheAidsAndTheGraphAreLive) {
+  EXPECT_TRUE(c("cmdAssist").Enabled);
   EXPECT_TRUE(c("cmdGraph").Enabled);
   EXPECT_EQ(c("cmdGraph").Caption, "Demo Graph");
   function("T");
