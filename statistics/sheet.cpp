@@ -225,11 +225,19 @@ void frmStatistics::RepaintCells(int from) {
     control("txtBBB", i).Text = S.DataText[S.PageBase + i];
 }
 
+int frmStatistics::lastHeld() const {
+  for (int i = StatisticsSheet::kPlaces - 1; i >= 1; --i)
+    if (!S.DataText[i].empty()) return i;
+  return 0;
+}
+
 void frmStatistics::cmdInsertClick() {
   if (S.IsSorted) return PubOrder();
   // No cell has been chosen yet: there is no place to open.
   if (S.GridCell < 1) return;
-  const int top = control("scrFive").Max() * 5 + 21;
+  // The shift starts past the pages, or past a datum that Last left beyond
+  // them, so that none is written over.
+  const int top = std::max(control("scrFive").Max() * 5 + 21, lastHeld() + 1);
   for (int i = std::min(top, StatisticsSheet::kPlaces - 1); i >= S.DataPlace + 1; --i) {
     S.Data[i] = S.Data[i - 1];
     S.DataText[i] = S.DataText[i - 1];
@@ -274,7 +282,10 @@ void frmStatistics::cmdOneClick() {
     last.Text = Format(Value(S.Aim[1]), kMaskCount);
     S.AimText[1] = last.Text;
   }
-  const int top = std::min(control("scrFive").Max() * 5 + 20, StatisticsSheet::kPlaces - 2);
+  // The places close up over the pages, and on over any datum that Last
+  // left past them, so that none stays behind as a copy.
+  const int pages = control("scrFive").Max() * 5 + 20;
+  const int top = std::min(std::max(pages, lastHeld()), StatisticsSheet::kPlaces - 2);
   for (int i = S.DataPlace; i <= top; ++i) {
     S.Data[i] = S.Data[i + 1];
     S.DataText[i] = S.DataText[i + 1];

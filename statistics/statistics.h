@@ -91,6 +91,8 @@ class frmStatistics : public Form {
   void txtAimLostFocus(int index);
   void txtAimKeyPress(int index, EventArgs& args);
   void scrFiveChange();
+  // The highest place that holds a datum, on the pages or past them.
+  int lastHeld() const;
   void cmdInsertClick();
   void cmdOneClick();
   void cmdDelClick();

@@ -111,7 +111,9 @@ TEST_F(UserGraph, AFailedPointIsSkippedWithBothItsSegments) {
     // No end stands on the display's 0 of a failed point at the axis: the
     // curve meets the axis only at its own ends, T = -2 and 2.
     for (auto [x, y] : {std::pair{s.x1, s.y1}, std::pair{s.x2, s.y2}})
-      if (y >= 3000) EXPECT_GE(std::fabs(x - 5000), 1799) << x;
+      if (y >= 3000) {
+        EXPECT_GE(std::fabs(x - 5000), 1799) << x;
+      }
   }
 }
 

@@ -217,4 +217,39 @@ TEST_F(Sheet, LastIsGuarded) {
 }
 
 }  // namespace
+// Last may be set just past the pages (21 shows pages 1-20), and a datum
+// can stand there. Delete 1 and Insert move the places over it as well:
+// Delete leaves no copy of it behind, Insert writes nothing over it, and the
+// count stays the number of data.
+TEST_F(Sheet, DataPastThePagesMoveWithThePlaces) {
+  auto held = [this] {
+    int n = 0;
+    for (int i = 1; i < StatisticsSheet::kPlaces; ++i) n += sheet().DataText[i].empty() ? 0 : 1;
+    return n;
+  };
+  entries({"1", "2", "3"});
+  StatisticsSheet& S = sheet();
+  S.DataText[21] = "5";
+  S.Data[21] = 5;
+  S.DataCount += 1;
+  // Last typed as 21 as the user leaves for Delete 1: the pages shrink to
+  // 1-20 just before the click.
+  app.focus(c("txtBBB", 2));
+  app.focus(c("txtAim", 1));
+  type("txtAim", 1, "21");
+  click("cmdOne");
+  EXPECT_EQ(c("scrFive").Max(), 0);
+  EXPECT_EQ(held(), S.DataCount);
+  EXPECT_EQ(S.DataText[20], "5");
+  EXPECT_EQ(S.DataText[21], "");
+  S.DataText[20] = "";
+  S.DataText[21] = "5";
+  app.focus(c("txtBBB", 1));
+  app.focus(c("txtAim", 1));
+  type("txtAim", 1, "21");
+  click("cmdInsert");
+  EXPECT_EQ(held(), S.DataCount);
+  EXPECT_EQ(S.DataText[22], "5");
+}
+
 }  // namespace tessaron::test
