@@ -110,6 +110,7 @@ class OviCalc : public Form,
   void PubDomainCk();
   void PubDomainCk1();
   void PubDomainCk3();
+  void powerOfT();
   void PubDomainTrig();
   void PubDomainTrig3();
   void pubDomainFront();

@@ -165,6 +165,48 @@ void OviCalc::PubDomainCk3() {
       ++DomRec;
     }
   }
+  powerOfT();
+}
+
+// A power with T behind the key, in its exponent: a base that goes to zero
+// or below somewhere has no fractional powers there, and T is held to the
+// band of its exponent, out to 100.
+void OviCalc::powerOfT() {
+  const int col = EqnIdx;
+  const auto& keys = EqnTable[col];
+  const int last = static_cast<int>(keys[29]);
+  auto code = [&keys](int i) { return static_cast<int>(keys[30 + i]); };
+  for (const int power : {27, 31}) {
+    DomRec = power == 27 ? 60 : 65;
+    const int end = DomRec + 4;
+    for (DomScan = 2; DomScan <= last - 1 && DomRec <= end; ++DomScan) {
+      if (code(DomScan) != power) continue;
+      // The base: the group that closes just before the key, T itself, or
+      // the run of number keys before it.
+      const int to = DomScan - 1;
+      int from = to;
+      if (code(to) == 19) {
+        for (int depth = 0; from > 0; --from) {
+          depth += code(from) == 19 ? 1 : code(from) == 18 ? -1 : 0;
+          if (depth == 0) break;
+        }
+      } else if (code(to) != 33) {
+        while (from - 1 > 0 && code(from - 1) < 20) --from;
+      }
+      bool positive = true;
+      for (double t = -13; t <= 20 && positive; t += 2.1) {
+        ErrFlag = false;
+        replayFrom(col, from, to, t);
+        positive = !ErrFlag && readF() > 0;
+      }
+      if (positive) continue;
+      pubDomainRear();
+      if (!LinFound) continue;
+      const auto [lo, hi] = ordered(-LinB / LinA, 100 / LinA, LinA);
+      record(DomainTab, DomRec, lo, hi);
+      ++DomRec;
+    }
+  }
 }
 
 void OviCalc::PubDomainTrig() {

@@ -92,4 +92,22 @@ TEST_F(DomainTest, NoDomainWorks) {
   EXPECT_EQ(host.boxes.back().text, "  No Domain Works !  ");
 }
 
+// T behind a power key, in its exponent: T X^y T has a base that goes below
+// zero, so T is held to its exponent's band, 0 to 100; 2 X^y T has a base
+// that stays positive and no limit. The same for the root key X^(1/y).
+TEST_F(DomainTest, PowerWithTInTheExponent) {
+  scanList({32, 41, 99, 33, 27, 33, 22});
+  ASSERT_TRUE(used(60));
+  EXPECT_EQ(low(60), 0);
+  EXPECT_EQ(high(60), 100);
+  EXPECT_EQ(low(0), 0);
+  EXPECT_EQ(high(0), 100);
+  scanList({32, 41, 99, 2, 27, 18, 33, 21, 4, 19, 22});
+  EXPECT_FALSE(used(60));
+  scanList({32, 41, 99, 18, 33, 20, 3, 19, 31, 18, 2, 23, 33, 19, 22});
+  ASSERT_TRUE(used(65));
+  EXPECT_DOUBLE_EQ(low(65), 0);
+  EXPECT_DOUBLE_EQ(high(65), 50);
+}
+
 }  // namespace tessaron::test
