@@ -180,14 +180,10 @@ KeptShow OviCalc::keptDisplay() const {
 }
 
 void OviCalc::restoreDisplay(const KeptShow& kept) {
-  if (!kept.numeric) {
+  if (kept.numeric)
+    PubShow(*Readout, Value(kept.number));
+  else
     setDisp(kept.text);
-  } else if (replaying_ && !loud()) {
-    shownValue_ = readBack(kept.number);
-    pend(kept.number);
-  } else {
-    setDisp(CStr(Value(kept.number)));
-  }
 }
 
 double OviCalc::keptNumber(const KeptShow& kept) const {

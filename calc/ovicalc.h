@@ -140,6 +140,8 @@ class OviCalc : public Form,
   void pubModeGraph();
   // The histogram's curve at the display's value: the demo key 145.
   void ModeVask();
+  // The curve's formula as demo 41 titles it.
+  std::string modeCurveText() const;
   // The aids' shared acts: one silent evaluation, the answer to memory 3,
   // a refusal, the sums.
   enum class SumEnd { Done, Error, TooBig };
@@ -189,11 +191,6 @@ class OviCalc : public Form,
   void cmdGoNext();
   void cmdPrior();
   void cmdGoDemo();
-  // The histogram mode's curve (key code 145), its peak and its text, as
-  // demo 41 draws and titles them.
-  void pubVaskCurve();
-  double pubVaskPeak() const;
-  std::string pubVaskText() const;
 
   // The clipboard and the printout.
   void cmdCopy();

@@ -83,7 +83,7 @@ void OviCalc::PubDemo() {
     DemoData[2][n] = n == 23 ? 1 : (n == 24 || n == 32 || n == 34) ? 1.1 : 0.1;
     DemoData[3][n] = 0;
   }
-  DemoText[41] = pubVaskText();
+  DemoText[41] = modeCurveText();
   auto answers = [this](int n, std::vector<double> roots) {
     DemoData[3][n] = static_cast<double>(roots.size());
     for (size_t i = 0; i < roots.size(); ++i) DemoData[4 + i][n] = roots[i];

@@ -18,7 +18,7 @@ double gauss(double x, double spread, double divisor) {
 }  // namespace
 
 void OviCalc::pubDemoCode(int code) {
-  if (code == 145) return pubVaskCurve();
+  if (code == 145) return ModeVask();
   if (nLastOp[nLevel] == Value(2)) pubNew();
   const double x = displayValue();
   double y = 0;

@@ -77,7 +77,7 @@ void OviCalc::PubCircle() {
       square.Visible = true;
     }
     if (DemoSub >= 1 && DemoNumber == 41) {
-      modeMax.Caption = "Max at X = " + Format(Value(pubVaskPeak()), "0.###");
+      modeMax.Caption = "Max at X = " + Format(Value(ModeMax), "0.###");
       modeMax.Visible = true;
     }
   } else {
@@ -191,7 +191,7 @@ void OviCalc::PubGraPrint() {
   if (DemoSub == 5) {
     printer.FontSize = 20;
     printer.CurrentX = kFrameLeft;
-    printer.Print({Value("Max. at X = " + Format(Value(pubVaskPeak()), "0.###"))});
+    printer.Print({Value("Max. at X = " + Format(Value(ModeMax), "0.###"))});
   }
   printer.FontSize = 12;
   const auto& col = EqnTable[EqnIdx];

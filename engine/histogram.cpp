@@ -40,6 +40,17 @@ void OviCalc::ModeVask() {
   PubShow(*Readout, Value(y));
 }
 
+std::string OviCalc::modeCurveText() const {
+  auto coef = [this](int i) { return Format(Value(ModeCoef[i]), "0.####"); };
+  const bool scaled = ModeScale != 1;
+  std::string text = coef(1) + "X^4 + " + coef(2) + "X^3 +" + coef(3) + "X^2 + " + coef(4) +
+                     (scaled ? "X - M(3),   " : "X - M(3)     ");
+  if (scaled)
+    text += ModeScaleDown ? " 1/" + CStr(Value(ModeScale))
+                          : CStr(Value(ModeScale)) + " times of  Y    ";
+  return text;
+}
+
 void OviCalc::cmdVaskMode() {
   frameSlide->Visible = false;
   ModeCoef[0] = 0;

@@ -2,54 +2,18 @@
 // its keys, and a solve is a few hundred to a few thousand of them.
 #include <benchmark/benchmark.h>
 
-#include <map>
 #include <string>
 
 #include "calc/ovicalc.h"
-#include "surface/application.h"
+#include "tests/engine/bench_calculator.h"
 
 namespace {
 using namespace tessaron;
 
-struct Engine {
-  QuietHost host;
-  Application app{host};
-  OviCalc* calc;
-  Engine() {
-    app.registerForm("OviCalc", [](Application& a) { return std::make_unique<OviCalc>(a); });
-    calc = &app.form<OviCalc>("OviCalc");
-    app.show(*calc);
-    press("cmdTeqn");
-  }
-  void press(const char* name, int index = -1) { app.click(calc->control(name, index)); }
-  void keys(const std::string& words) {
-    static const std::map<std::string, std::pair<const char*, int>> k = {
-        {"T", {"cmdT", -1}},       {"sin", {"SSin", -1}},   {"cos", {"Ccos", -1}},
-        {"tan", {"Ttan", -1}},     {"x2", {"Squar", -1}},   {"e^x", {"Expo", -1}},
-        {"ln", {"NatLog", -1}},    {"1/x", {"Rever", -1}},  {"(", {"cmdOpenP", -1}},
-        {")", {"cmdCloseP", -1}},  {"+", {"Operator", 0}},  {"-", {"Operator", 1}},
-        {"=", {"Operator", 2}},    {"X", {"Operator", 3}},  {"/", {"Operator", 4}},
-        {".", {"cmdDeci", -1}},    {"Rad", {"cmdRad", -1}}, {"Deg", {"cmdDeg", -1}},
-        {"f(T)", {"cmdTform", -1}}};
-    size_t i = 0;
-    while (i < words.size()) {
-      size_t j = words.find(' ', i);
-      if (j == std::string::npos) j = words.size();
-      const std::string w = words.substr(i, j - i);
-      if (w.size() == 1 && w[0] >= '0' && w[0] <= '9')
-        press("Number", w[0] - '0');
-      else if (!w.empty())
-        press(k.at(w).first, k.at(w).second);
-      i = j + 1;
-    }
-  }
-  void function(const std::string& mode, const std::string& f) { keys(mode + " f(T) " + f + " ="); }
-};
-
 const char* const kF = "T sin X T x2 - 3 / ( T + 1 )";
 
 void BM_Replay(benchmark::State& state) {
-  Engine e;
+  bench::Calculator e;
   e.function(state.range(0) ? "Rad" : "Deg", kF);
   OviCalc& c = *e.calc;
   c.CalcStage = 5;
@@ -81,7 +45,7 @@ const char* const kSolves[][2] = {
 };
 
 void BM_Solve(benchmark::State& state) {
-  Engine e;
+  bench::Calculator e;
   const auto& s = kSolves[state.range(0)];
   e.function("Deg", s[1]);
   OviCalc& c = *e.calc;
