@@ -15,6 +15,19 @@ constexpr long kBlue = 0xFF0000, kGreen = 0x8000, kBlack = 0;
 // rule reads them. Text that is no number falls to that rule and its failure.
 double readNumber(const std::string& text) {
   if (text.empty()) return 0;
+  // Digits alone, as typing makes them: up to fifteen are exact in a Real.
+  if (text.size() <= 15) {
+    unsigned long long whole = 0;
+    bool digits = true;
+    for (char ch : text) {
+      if (ch < '0' || ch > '9') {
+        digits = false;
+        break;
+      }
+      whole = whole * 10 + static_cast<unsigned>(ch - '0');
+    }
+    if (digits) return static_cast<double>(whole);
+  }
   char buf[64];
   size_t n = 0;
   for (char ch : text) {
@@ -29,15 +42,9 @@ double readNumber(const std::string& text) {
 }
 }  // namespace
 
-// Every key reads the display, and most read what the key before wrote: the
-// last text read is kept with its value.
-double OviCalc::displayValue() const {
-  if (pendingShow_) return shownValue_;
-  const std::string& text = Readout->Caption;
-  if (text != shownText_) {
-    shownValue_ = readNumber(text);
-    shownText_ = text;
-  }
+double OviCalc::readDisplay() const {
+  shownValue_ = readNumber(Readout->Caption);
+  shownText_ = Readout->Caption;
   return shownValue_;
 }
 
@@ -164,14 +171,14 @@ void OviCalc::PubShow(Control& target, const Value& value) {
     target.Caption = CStr(Value(v));
     return;
   }
-  // The next key reads the display back: it is known without reading.
-  shownValue_ = readBack(v);
   if (replaying_ && !loud()) {
     pend(v);
     return;
   }
   target.Caption = CStr(Value(v));
   shownText_ = target.Caption;
+  // The next key reads the display back: it is known without reading.
+  shownValue_ = readBack(v);
 }
 
 KeptShow OviCalc::keptDisplay() const {
@@ -191,26 +198,25 @@ double OviCalc::keptNumber(const KeptShow& kept) const {
   return !pendingShow_ && kept.text == shownText_ ? shownValue_ : readNumber(kept.text);
 }
 
-double OviCalc::readBack(double v) const {
-  if (v != readIn_) {
-    readIn_ = v;
-    readOut_ = CStrValue(v);
-  }
-  return readOut_;
+double OviCalc::readAfresh(double v, std::size_t slot) const {
+  readIn_[slot] = v;
+  return readOut_[slot] = CStrValue(v);
 }
 
-// The text on the display is no longer what was last read: whatever is
-// written next must be read afresh.
 void OviCalc::pend(double v) {
   pendingShow_ = true;
   pendingValue_ = v;
-  shownText_ = "\x01";
+}
+
+void OviCalc::settle() {
+  if (pendingShow_ && !replaying_) flushShow();
 }
 
 void OviCalc::flushShow() {
   pendingShow_ = false;
   Readout->Caption = CStr(Value(pendingValue_));
   shownText_ = Readout->Caption;
+  shownValue_ = readBack(pendingValue_);
 }
 
 void OviCalc::PubReadout(const Value& value) {

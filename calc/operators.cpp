@@ -2,6 +2,7 @@
 // multiplicative chain, vSumHold and sgSumOp keep the sum that waits for it,
 // and vFuncX and vFuncY hold a pending two-operand function, the tightest
 // binding. Nothing is parsed: the chain is evaluated as the keys arrive.
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -30,14 +31,14 @@ bool whole(double v) { return v == std::floor(v); }
 // Ten to a whole power, as the ^ operator gives it: beyond a Real, Overflow.
 // The dust cut asks for whole powers, at every sum of every replay: each is
 // made once, by the very power routine, and kept.
-double tenTo(double p) {
+double tenTo(int p) {
   constexpr int kLow = -330, kHigh = 308;  // beyond 10^308 the power overflows, as it should
   static const std::array<double, kHigh - kLow + 1> whole = [] {
     std::array<double, kHigh - kLow + 1> t{};
     for (int i = kLow; i <= kHigh; ++i) t[i - kLow] = Pow(Value(10), Value(i)).AsReal();
     return t;
   }();
-  if (p == std::floor(p) && p >= kLow && p <= kHigh) return whole[static_cast<int>(p) - kLow];
+  if (p >= kLow && p <= kHigh) return whole[p - kLow];
   return Pow(Value(10), Value(p)).AsReal();
 }
 }  // namespace
@@ -53,19 +54,22 @@ Value OviCalc::PubOPX(char op, const Value& x, const Value& y) {
       if (a != 0 && b != 0) {
         // Representation dust is cut at the fifteenth digit of the larger
         // operand: 0.1 + 0.2 is 0.3, and a cancelling difference ends clean.
-        Value e = CInt(Value(std::log10(std::fabs(a))));
-        if (std::fabs(b) > std::fabs(a)) e = CInt(Value(std::log10(std::fabs(b))));
-        const double p = tenTo(15 - num(e));
-        s = Int(Value(s * p + 0.5)).AsReal() / p;
+        // The logarithm rounds half to even, as CInt does; it is never far
+        // from zero.
+        const auto e =
+            static_cast<int>(std::nearbyint(std::log10(std::max(std::fabs(a), std::fabs(b)))));
+        const double p = tenTo(15 - e);
+        s = std::floor(Checked(s * p + 0.5)) / p;
       }
       return Value(s);
     }
     case 'X': {
       if (a == 0 || b == 0) return Value(0);
-      const double la = std::log10(std::fabs(a)), lb = std::log10(std::fabs(b));
-      const bool across =
-          (std::fabs(a) <= 1 && std::fabs(b) >= 1) || (std::fabs(b) <= 1 && std::fabs(a) >= 1);
-      if (la + lb < 308.2 || across) return Value(a * b);
+      const double fa = std::fabs(a), fb = std::fabs(b);
+      const bool across = (fa <= 1 && fb >= 1) || (fb <= 1 && fa >= 1);
+      // Below 10^150 each, the logarithms' sum is far inside the limit.
+      if (across || (fa < 1e150 && fb < 1e150) || std::log10(fa) + std::log10(fb) < 308.2)
+        return Value(a * b);
       refuse("Sorry, Not Available !! ");
       return Value();
     }
@@ -75,10 +79,12 @@ Value OviCalc::PubOPX(char op, const Value& x, const Value& y) {
         return Value();
       }
       if (a == 0) return Value(0);
-      const double la = std::log10(std::fabs(a)), lb = std::log10(std::fabs(b));
-      const bool same =
-          (std::fabs(a) >= 1 && std::fabs(b) >= 1) || (std::fabs(a) <= 1 && std::fabs(b) <= 1);
-      if (la - lb < 308.2 || same) return Value(a / b);
+      const double fa = std::fabs(a), fb = std::fabs(b);
+      const bool same = (fa >= 1 && fb >= 1) || (fa <= 1 && fb <= 1);
+      // Below 10^150 over above 10^-150, the logarithms' difference is far
+      // inside the limit.
+      if (same || (fa < 1e150 && fb > 1e-150) || std::log10(fa) - std::log10(fb) < 308.2)
+        return Value(a / b);
       refuse("Sorry, Not Available !! ");
       return Value();
     }

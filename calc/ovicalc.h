@@ -3,6 +3,8 @@
 // the display text, works on the per-level record and writes text back; the
 // same routines are pressed again, silently, by the key log's replay.
 #include <array>
+#include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -24,6 +26,7 @@ class OviCalc : public Form,
  public:
   explicit OviCalc(Application& app);
   void Load() override;
+  void settle() override;
 
   // Keys, callable by name from the keyboard routing and from replay.
   void Number(int Index);
@@ -234,8 +237,14 @@ class OviCalc : public Form,
   void PubFormFunc(const Value& value);
   void PubFormCut();
 
-  // The display's value by the number rule (comma groups accepted).
-  double displayValue() const;
+  // The display's value by the number rule (comma groups accepted). Every
+  // key reads the display, and most read what the key before wrote: the last
+  // text read is kept with its value.
+  double displayValue() const {
+    if (pendingShow_) return readBack(pendingValue_);
+    if (Readout->Caption == shownText_) return shownValue_;
+    return readDisplay();
+  }
 
  private:
   void design();
@@ -322,16 +331,24 @@ class OviCalc : public Form,
   void pressKey(Control* c);
 
   // The display's text last read, and its value.
-  mutable std::string shownText_ = "\x01";  // no display text is this
+  mutable std::string shownText_ = "\x01";  // no display text is this, at first
   mutable double shownValue_ = 0;
-  // A silent replay makes the display's text once, at its end: the keys in
-  // between read only its number.
+  // A silent replay leaves the display's text to be made when it is read,
+  // or when the event ends: the keys in between, and the solver's and the
+  // aids' next replays, read only its number.
   bool replaying_ = false, pendingShow_ = false;
   double pendingValue_ = 0;
-  // The last number shown and what its text reads back as: keys often show
-  // again what stands.
-  mutable double readIn_ = 0, readOut_ = 0;
-  double readBack(double v) const;
+  // Numbers lately shown and what their texts read back as: keys often show
+  // again what stands, and T comes back at every one of its keys.
+  mutable std::array<double, 8> readIn_{}, readOut_{};
+  double readBack(double v) const {
+    std::uint64_t bits;
+    std::memcpy(&bits, &v, sizeof v);
+    const auto slot = static_cast<std::size_t>((bits * 0x9E3779B97F4A7C15ULL) >> 61);
+    return v == readIn_[slot] ? readOut_[slot] : readAfresh(v, slot);
+  }
+  double readAfresh(double v, std::size_t slot) const;
+  double readDisplay() const;
   // Controls the keys touch, found once.
   Control *Readout{}, *lblFormula{}, *lblRead2{}, *txtKwal{}, *cmdDeciC{}, *SignC{}, *cmdExpC{},
       *cmdDeleteC{}, *cmdBackC{}, *CancelEntryC{}, *CancelC{}, *cmdOpenPC{}, *cmdClosePC{},

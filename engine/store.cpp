@@ -27,10 +27,7 @@ void OviCalc::pubCOCAcola() {
     OviCalc& c;
     bool outer;
     explicit Replay(OviCalc& calc) : c(calc), outer(calc.replaying_) { c.replaying_ = true; }
-    ~Replay() {
-      c.replaying_ = outer;
-      if (!outer && c.pendingShow_) c.flushShow();
-    }
+    ~Replay() { c.replaying_ = outer; }
   } replay(*this);
   for (int i = 0; i <= last; ++i) {
     pubCola(static_cast<int>(col[30 + i]));

@@ -17,25 +17,29 @@ constexpr double kTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8, 
                            1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
 // |x| x 10^k as a head and a tail whose sum is exact (product) or off by far
-// less than a millionth (quotient): the fused multiply-add gives the part
-// the rounding of the head left out.
-void Scaled(double a, int k, double& head, double& tail) {
+// less than a millionth (quotient). With a fused multiply-add the tail is
+// one instruction; without one, Dekker's exact product makes it in plain
+// arithmetic, with no library call.
+template <bool kFused>
+[[gnu::always_inline]] inline void Scaled(double a, int k, double& head, double& tail) {
   if (k >= 0) {
-    // Dekker's exact product, in plain arithmetic: no call on a machine
-    // without a fused multiply-add.
-    auto split = [](double x, double& hi, double& lo) {
-      const double c = 134217729.0 * x;  // 2^27 + 1
-      hi = c - (c - x);
-      lo = x - hi;
-    };
-    double ah, al, ph, pl;
-    split(a, ah, al);
-    split(kTen[k], ph, pl);
     head = a * kTen[k];
-    tail = ((ah * ph - head) + ah * pl + al * ph) + al * pl;
+    if constexpr (kFused) {
+      tail = __builtin_fma(a, kTen[k], -head);
+    } else {
+      auto split = [](double x, double& hi, double& lo) {
+        const double c = 134217729.0 * x;  // 2^27 + 1
+        hi = c - (c - x);
+        lo = x - hi;
+      };
+      double ah, al, ph, pl;
+      split(a, ah, al);
+      split(kTen[k], ph, pl);
+      tail = ((ah * ph - head) + ah * pl + al * ph) + al * pl;
+    }
   } else {
     head = a / kTen[-k];
-    tail = std::fma(-head, kTen[-k], a) / kTen[-k];
+    tail = __builtin_fma(-head, kTen[-k], a) / kTen[-k];
   }
 }
 
@@ -43,7 +47,8 @@ void Scaled(double a, int k, double& head, double& tail) {
 // powers reach: away from a half the rounding of the scaled value is certain.
 // Near a half, or out of reach, it answers false and the exact conversion
 // decides.
-bool QuickDigits(double a, unsigned long long& m, int& exp10) {
+template <bool kFused>
+[[gnu::always_inline]] inline bool Quick(double a, unsigned long long& m, int& exp10) {
   if (!(a >= 1e-8 && a < 1e36)) return false;
   // 2^b <= a < 2^(b+1): a first guess at the decimal exponent, one short at
   // most.
@@ -55,14 +60,15 @@ bool QuickDigits(double a, unsigned long long& m, int& exp10) {
   auto reach = [&e] { return 14 - e >= -22 && 14 - e <= 22; };
   if (!reach()) return false;
   double head, tail;
-  Scaled(a, 14 - e, head, tail);
+  Scaled<kFused>(a, 14 - e, head, tail);
   if (head >= 1e15) {
     ++e;
     if (!reach()) return false;
-    Scaled(a, 14 - e, head, tail);
+    Scaled<kFused>(a, 14 - e, head, tail);
   }
   if (head < 1e14 || head >= 1e15) return false;
-  double whole = std::floor(head);
+  // head is positive: truncation is its floor, without a library call.
+  double whole = static_cast<double>(static_cast<long long>(head));
   double part = (head - whole) + tail;
   if (part < 0) {
     whole -= 1;
@@ -78,7 +84,21 @@ bool QuickDigits(double a, unsigned long long& m, int& exp10) {
   return true;
 }
 
+// The processor is asked once whether it fuses.
+bool QuickDigits(double a, unsigned long long& m, int& exp10) {
+  static const auto quick = FusedMultiplyAdd() ? QuickDigitsFused : QuickDigitsPlain;
+  return quick(a, m, exp10);
+}
+
 }  // namespace
+
+[[gnu::target("fma")]] bool QuickDigitsFused(double a, unsigned long long& m, int& exp10) {
+  return Quick<true>(a, m, exp10);
+}
+bool QuickDigitsPlain(double a, unsigned long long& m, int& exp10) {
+  return Quick<false>(a, m, exp10);
+}
+bool FusedMultiplyAdd() { return __builtin_cpu_supports("fma"); }
 
 void RealDigits(double x, char digits[15], int& exp10) {
   unsigned long long m;

@@ -26,6 +26,13 @@ std::string RealToText(double x);
 // 15 significant digits of |x|, correctly rounded, and the decimal exponent of
 // the first one: |x| = d.dddddddddddddd * 10^exp10.
 void RealDigits(double x, char digits[15], int& exp10);
+// The same digits the quick way, as a fifteen-digit whole number, with a
+// fused multiply-add or without one: false where the quick way cannot be
+// sure. The processor decides which of the two the conversions use; the
+// fused one runs only where FusedMultiplyAdd() says so.
+bool QuickDigitsFused(double a, unsigned long long& m, int& exp10);
+bool QuickDigitsPlain(double a, unsigned long long& m, int& exp10);
+bool FusedMultiplyAdd();
 
 // Strings in arithmetic are read by the CDbl rule.
 Value Numeric(const Value& v);

@@ -209,7 +209,7 @@ int CompareText(const std::string& a, const std::string& b) {
 
 }  // namespace
 
-int Compare(const Value& a, const Value& b) {
+int CompareAny(const Value& a, const Value& b) {
   const bool as = a.kind() == Kind::String, bs = b.kind() == Kind::String;
   if (as || bs) {
     if (as && bs) return CompareText(a.AsString(), b.AsString());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -9,6 +10,9 @@
 
 namespace tessaron {
 
+static_assert(std::endian::native == std::endian::little,
+              "a Value keeps its small kinds in the low bytes of a word");
+
 // In rising arithmetic rank (String aside).
 enum class Kind { Empty, Bool, Int16, Int32, Real, Dec, String };
 
@@ -17,15 +21,15 @@ enum class Kind { Empty, Bool, Int16, Int32, Real, Dec, String };
 // so arithmetic in the solvers' inner loops never allocates.
 class Value {
  public:
-  Value() noexcept : kind_(Kind::Empty) { u_.r = 0; }
-  Value(bool b) noexcept : kind_(Kind::Bool) { u_.b = b; }
+  Value() noexcept : kind_(Kind::Empty) { setWord(0); }
+  Value(bool b) noexcept : kind_(Kind::Bool) { setWord(b); }
   Value(int v) noexcept {
     if (v >= -32768 && v <= 32767) {
       kind_ = Kind::Int16;
-      u_.i16 = static_cast<int16_t>(v);
+      setWord(static_cast<uint16_t>(v));
     } else {
       kind_ = Kind::Int32;
-      u_.i32 = v;
+      setWord(static_cast<uint32_t>(v));
     }
   }
   // Whole numbers beyond 32 bits become Real, as an Int32 result would.
@@ -41,19 +45,37 @@ class Value {
   Value(const char* s) : Value(std::string(s)) {}
   Value(std::string s)
       : kind_(Kind::String), s_(std::make_shared<const std::string>(std::move(s))) {
-    u_.r = 0;
+    setWord(0);
   }
+
+  // A number is copied by the width its kind fills: a value made a moment ago
+  // is read back as it was written, which the processor forwards at once.
+  Value(const Value& o) noexcept : kind_(o.kind_), s_(o.s_) { copyNumber(o); }
+  Value(Value&& o) noexcept : kind_(o.kind_), s_(std::move(o.s_)) { copyNumber(o); }
+  Value& operator=(const Value& o) noexcept {
+    kind_ = o.kind_;
+    s_ = o.s_;
+    copyNumber(o);
+    return *this;
+  }
+  Value& operator=(Value&& o) noexcept {
+    kind_ = o.kind_;
+    s_ = std::move(o.s_);
+    copyNumber(o);
+    return *this;
+  }
+  ~Value() = default;
 
   static Value Int16(int16_t v) noexcept {
     Value x;
     x.kind_ = Kind::Int16;
-    x.u_.i16 = v;
+    x.setWord(static_cast<uint16_t>(v));
     return x;
   }
   static Value Int32(int32_t v) noexcept {
     Value x;
     x.kind_ = Kind::Int32;
-    x.u_.i32 = v;
+    x.setWord(static_cast<uint32_t>(v));
     return x;
   }
 
@@ -79,14 +101,25 @@ class Value {
   friend Value operator*(const Value&, const Value&);
   friend Value operator/(const Value&, const Value&);
 
+  // The small kinds sit in the low bytes of one eight-byte word, written
+  // whole.
+  void setWord(uint64_t w) noexcept { u_.word = w; }
+  void copyNumber(const Value& o) noexcept {
+    if (kind_ == Kind::Dec)
+      u_.d = o.u_.d;
+    else
+      u_.word = o.u_.word;
+  }
+
   Kind kind_;
   union U {
     bool b;
     int16_t i16;
     int32_t i32;
     double r;
+    uint64_t word;
     Dec d;
-    U() : r(0) {}
+    U() {}
   } u_;
   std::shared_ptr<const std::string> s_;
 };
@@ -125,7 +158,19 @@ Value Pow(const Value&, const Value&);     // the ^ operator: always Real
 Value Concat(const Value&, const Value&);  // the & operator: always String
 
 // -1, 0 or 1 by the comparison rules of the forms.
-int Compare(const Value&, const Value&);
+int CompareAny(const Value&, const Value&);
+// Whole numbers and Reals compare as their Real values: the keys' own case,
+// kept inline.
+inline int Compare(const Value& a, const Value& b) {
+  auto plain = [](const Value& v) { return v.kind() >= Kind::Int16 && v.kind() <= Kind::Real; };
+  auto real = [](const Value& v) -> double {
+    if (v.kind() == Kind::Real) return v.AsReal();
+    return v.kind() == Kind::Int16 ? v.AsInt16() : v.AsInt32();
+  };
+  if (!plain(a) || !plain(b)) return CompareAny(a, b);
+  const double p = real(a), q = real(b);
+  return p < q ? -1 : p > q;
+}
 inline bool operator==(const Value& a, const Value& b) { return Compare(a, b) == 0; }
 inline bool operator!=(const Value& a, const Value& b) { return Compare(a, b) != 0; }
 inline bool operator<(const Value& a, const Value& b) { return Compare(a, b) < 0; }

@@ -98,6 +98,7 @@ Form& Application::form(std::string_view name) {
   everLoaded_ = true;
   ended_ = false;
   f.Load();
+  f.settle();
   return f;
 }
 

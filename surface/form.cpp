@@ -66,16 +66,21 @@ bool Form::fire(const Control* control, Event event, EventArgs& args) {
     if (r.event == event && r.control == name) {
       args.Index = control ? control->index() : -1;
       r.handler(args);
+      settle();
       return true;
     }
   return false;
 }
 
 int Form::MsgBox(const std::string& text, int flags, const std::string& title) {
+  settle();
   return app_.host().messageBox(text, flags, title);
 }
 
-std::string Form::InputBox(const std::string& prompt) { return app_.host().inputBox(prompt); }
+std::string Form::InputBox(const std::string& prompt) {
+  settle();
+  return app_.host().inputBox(prompt);
+}
 void Form::Beep() { app_.host().beep(); }
 PrinterDevice& Form::Printer() { return app_.printer(); }
 void Form::ClipboardClear() { app_.host().setClipboardText(""); }

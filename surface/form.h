@@ -29,6 +29,9 @@ class Form {
 
   // Runs once, before the form is first shown.
   virtual void Load() {}
+  // Puts onto the controls what a routine left waiting to be shown: after
+  // every event, and before a box stops the user to be read.
+  virtual void settle() {}
 
   const std::string& name() const { return name_; }
   const FormDesign& design() const { return design_; }

@@ -23,7 +23,12 @@ class CalcTest : public ::testing::Test {
     app.show(*calc);
   }
   Control& c(const char* name, int index = -1) { return calc->control(name, index); }
-  std::string display() { return c("Readout").Caption; }
+  // What the display shows once the routine in hand is over, as the end of
+  // an event leaves it: a routine called directly ends no event.
+  std::string display() {
+    calc->settle();
+    return c("Readout").Caption;
+  }
   long displayColour() { return c("Readout").ForeColor; }
   // Keys as the user presses them: a word a key, clicked on the form.
   void keys(const std::string& words) {

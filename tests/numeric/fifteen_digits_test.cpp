@@ -10,6 +10,7 @@
 #include <random>
 #include <string>
 
+#include "numeric/detail.h"
 #include "numeric/numeric.h"
 
 namespace tessaron {
@@ -42,6 +43,35 @@ TEST(FifteenDigits, RandomBits) {
     std::memcpy(&x, &bits, sizeof x);
     if (std::isfinite(x)) Agree(x);
   }
+}
+
+// The quick digits with a fused multiply-add and without one: wherever
+// either answers, its fifteen digits and exponent are %.14e's.
+TEST(FifteenDigits, FusedAndPlainQuickDigits) {
+  std::mt19937_64 rng(24);
+  std::uniform_real_distribution<double> decade(-7, 35), unit(0.1, 1);
+  int answered = 0;
+  for (int i = 0; i < 200000; ++i) {
+    const double x = unit(rng) * std::pow(10.0, decade(rng));
+    char buf[40];
+    std::snprintf(buf, sizeof buf, "%.14e", x);
+    std::string digits = std::string(1, buf[0]) + std::string(buf + 2, 14);
+    const int exp10 = std::atoi(buf + 17);
+    unsigned long long m;
+    int e;
+    if (detail::QuickDigitsPlain(x, m, e)) {
+      ++answered;
+      ASSERT_EQ(std::to_string(m), digits) << std::hexfloat << x;
+      ASSERT_EQ(e, exp10) << std::hexfloat << x;
+    }
+    if (detail::FusedMultiplyAdd() && detail::QuickDigitsFused(x, m, e)) {
+      ASSERT_EQ(std::to_string(m), digits) << std::hexfloat << x;
+      ASSERT_EQ(e, exp10) << std::hexfloat << x;
+    }
+  }
+  // Within the exact powers' reach and away from a half the quick way is
+  // sure: nearly every value answers.
+  EXPECT_GT(answered, 199000);
 }
 
 // A sixteenth digit of exactly 5 is a true half; one a hair either side is

@@ -66,6 +66,20 @@ TEST_F(EventsTest, ClickingAButtonFocusesItThenClicks) {
   EXPECT_EQ(app.focused(), &c("cmdA"));
 }
 
+// What a routine leaves waiting to be shown reaches the controls when its
+// event ends, and before a box it raises is read.
+TEST_F(EventsTest, AFormSettlesAfterEachEventAndBeforeABox) {
+  auto& form = static_cast<TestForm&>(*f);
+  form.onSettle = [this] { log.push_back("settle"); };
+  form.on("txtB", Event::Click, [this, &form](EventArgs&) {
+    log.push_back("before");
+    form.MsgBox("Look", 48, "Test");
+    log.push_back("after");
+  });
+  app.click(c("txtB"));
+  EXPECT_EQ(log, (std::vector<std::string>{"before", "settle", "after", "settle"}));
+}
+
 TEST_F(EventsTest, ClickingALabelOrImageLeavesTheFocus) {
   app.focus(c("txtA"));
   log.clear();

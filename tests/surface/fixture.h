@@ -17,8 +17,12 @@ class TestForm : public Form {
  public:
   using Form::Form;
   std::function<void(TestForm&)> onLoad;
+  std::function<void()> onSettle;
   void Load() override {
     if (onLoad) onLoad(*this);
+  }
+  void settle() override {
+    if (onSettle) onSettle();
   }
 };
 
