@@ -2,6 +2,7 @@
 // coefficient boxes in rows of four, the answers, the keys, and the graph
 // that opens over all of them.
 #include "equations/eqtns.h"
+#include "surface/design_rows.h"
 
 namespace tessaron {
 
@@ -11,129 +12,87 @@ using K = ControlKind;
 constexpr int kBoxWidth = 1140, kBoxStep = 1740, kRowStep = 600, kRowTop = 480;
 constexpr long kWhite = 0xFFFFFF;
 
-Design option(int index, const char* caption, const char* tip, bool twin, bool visible) {
-  const int row = (index - 1) % 4;
-  return {.kind = K::OptionButton,
-          .name = "optEqn",
-          .index = index,
-          .caption = caption,
-          .tip = tip,
-          .left = 120,
-          .top = 420 + row * 1320,
-          .width = 2760,
-          .height = 1080,
-          .container = "fmSelect",
-          .visible = visible,
-          .fontSize = 10,
-          .fontBold = twin,
-          .checked = twin && visible};
+// Font size 0 is the form's own; what is hidden waits for an equation or the
+// graph to show it.
+Design styled(Design d, double font, bool visible = true) {
+  d.fontSize = font;
+  d.visible = visible;
+  return d;
 }
 
+Design option(int index, const char* caption, const char* tip, bool twin, bool visible) {
+  const int row = (index - 1) % 4;
+  Design d = styled(Row(K::OptionButton, "optEqn", index, caption, tip, 120, 420 + row * 1320, 2760,
+                        1080, "fmSelect"),
+                    10, visible);
+  d.fontBold = twin;
+  d.checked = twin && visible;
+  return d;
+}
+
+// Only the first row of coefficients shows until an equation asks for more.
 Design box(int index) {
   const int col = (index - 1) % 4, row = (index - 1) / 4;
-  return {.kind = K::TextBox,
-          .name = "txtBBB",
-          .index = index,
-          .left = 120 + col * kBoxStep,
-          .top = kRowTop + row * kRowStep,
-          .width = kBoxWidth,
-          .height = 420,
-          .container = "fmData",
-          .visible = index <= 3,
-          .fontSize = 10,
-          .alignment = Align::Right};
+  Design d = Row(K::TextBox, "txtBBB", index, "", "", 120 + col * kBoxStep,
+                 kRowTop + row * kRowStep, kBoxWidth, 420, "fmData");
+  d.alignment = Align::Right;
+  return styled(d, 10, index <= 3);
 }
 
 Design word(int index) {
   const int col = (index - 1) % 4, row = (index - 1) / 4;
-  return {.kind = K::Label,
-          .name = "lblCCC",
-          .index = index,
-          .left = 120 + col * kBoxStep + kBoxWidth + 20,
-          .top = kRowTop + row * kRowStep + 90,
-          .width = kBoxStep - kBoxWidth - 30,
-          .height = 300,
-          .container = "fmData",
-          .visible = index <= 3,
-          .fontSize = 9};
+  return styled(Row(K::Label, "lblCCC", index, "", "", 120 + col * kBoxStep + kBoxWidth + 20,
+                    kRowTop + row * kRowStep + 90, kBoxStep - kBoxWidth - 30, 300, "fmData"),
+                9, index <= 3);
 }
 
 // The exponents stand raised just after the X of the first and second words.
 Design exponent(int index, int col) {
-  return {.kind = K::Label,
-          .name = "lblCCC",
-          .index = index,
-          .left = 120 + col * kBoxStep + kBoxWidth + 150,
-          .top = kRowTop - 40,
-          .width = 150,
-          .height = 240,
-          .container = "fmData",
-          .visible = index == 13,
-          .fontSize = 8};
+  return styled(Row(K::Label, "lblCCC", index, "", "", 120 + col * kBoxStep + kBoxWidth + 150,
+                    kRowTop - 40, 150, 240, "fmData"),
+                8, index == 13);
 }
 
-Design answerRow(int index) {
-  return {.kind = K::Label,
-          .name = "lblAns",
-          .index = index,
-          .left = 900,
-          .top = 420 + index * 720,
-          .width = 6180,
-          .height = 480,
-          .container = "fmAns",
-          .backColor = kWhite,
-          .fontSize = 12};
+Design answer(int index) {
+  Design d = Row(K::Label, "lblAns", index, "", "", 900, 420 + index * 720, 6180, 480, "fmAns");
+  d.backColor = kWhite;
+  return styled(d, 12);
 }
 
 Design answerWord(int index) {
-  return {.kind = K::Label,
-          .name = "lblABS",
-          .index = index,
-          .left = 120,
-          .top = 480 + index * 720,
-          .width = 740,
-          .height = 360,
-          .container = "fmAns",
-          .fontSize = 11};
+  return styled(Row(K::Label, "lblABS", index, "", "", 120, 480 + index * 720, 740, 360, "fmAns"),
+                11);
+}
+
+// The equations' own words, read but not typed over.
+Design notice(const char* caption, int left, int top, int width, int height) {
+  Design d = styled(Row(K::TextBox, "txtCompex", -1, caption, "", left, top, width, height), 9);
+  d.multiLine = d.locked = true;
+  d.tabStop = false;
+  return d;
 }
 
 Design key(const char* name, const char* caption, const char* tip, int left) {
-  return {.kind = K::CommandButton,
-          .name = name,
-          .caption = caption,
-          .tip = tip,
-          .left = left,
-          .top = 6180,
-          .width = 1620,
-          .height = 660,
-          .fontSize = 10};
+  return styled(Row(K::CommandButton, name, -1, caption, tip, left, 6180, 1620, 660), 10);
+}
+
+Design graph(int left, int top, int width, int height) {
+  Design d = Row(K::PictureBox, "picGraph", -1, "", "", left, top, width, height);
+  d.backColor = kWhite;
+  return styled(d, 0, false);
 }
 
 Design graphKey(const char* name, int index, const char* caption, int left, int top, int width,
                 int height) {
-  return {.kind = K::CommandButton,
-          .name = name,
-          .index = index,
-          .caption = caption,
-          .tip = " Return to front ",
-          .left = left,
-          .top = top,
-          .width = width,
-          .height = height,
-          .container = "picGraph",
-          .fontSize = 10};
+  return styled(Row(K::CommandButton, name, index, caption, " Return to front ", left, top, width,
+                    height, "picGraph"),
+                10);
 }
 
 Design graphText(int index) {
-  return {.kind = K::Label,
-          .name = "lblFx",
-          .index = index,
-          .left = 6840,
-          .top = 120 + index * 540,
-          .width = 3480,
-          .height = 480,
-          .container = "picGraph",
-          .visible = false};
+  return styled(
+      Row(K::Label, "lblFx", index, "", "", 6840, 120 + index * 540, 3480, 480, "picGraph"), 0,
+      false);
 }
 
 Design line(const char* name, double x1, double y1, double x2, double y2, bool visible) {
@@ -150,67 +109,34 @@ Design line(const char* name, double x1, double y1, double x2, double y2, bool v
 
 Design graphLabel(const char* name, const char* caption, int left, int top, int width,
                   bool visible) {
-  return {.kind = K::Label,
-          .name = name,
-          .caption = caption,
-          .left = left,
-          .top = top,
-          .width = width,
-          .height = 240,
-          .container = "picGraph",
-          .visible = visible};
+  return styled(Row(K::Label, name, -1, caption, "", left, top, width, 240, "picGraph"), 0,
+                visible);
 }
 }  // namespace
 
 std::vector<Design> frmEqtns::designTable() {
-  std::vector<Design> t = {
-      {.kind = K::Frame,
-       .name = "fmSelect",
-       .caption = " Select  Equation ",
-       .left = 120,
-       .top = 120,
-       .width = 3000,
-       .height = 5880},
-      option(1, "aX\u00b2 + bX + c = 0", " including  aX + b = 0 ", false, false),
-      option(2, "aX\u00b3 + bX\u00b2 + cX + d = 0", "", false, true),
-      option(3, "aX + bY = c", "", false, true),
-      option(4, "aX + bY + cZ = d", "", false, true),
-      option(5, "aX\u00b2 + bX + c = 0", " including  aX + b = 0 ", true, true),
-      option(6, "aX\u00b3 + bX\u00b2 + cX + d = 0", "", true, false),
-      option(7, "aX + bY = c", "", true, false),
-      option(8, "aX + bY + cZ = d", "", true, false),
-      {.kind = K::TextBox,
-       .name = "txtCompex",
-       .caption = "More complex equations : see the Vantor Calc",
-       .left = 120,
-       .top = 6120,
-       .width = 3000,
-       .height = 720,
-       .fontSize = 9,
-       .multiLine = true,
-       .locked = true,
-       .tabStop = false},
-      {.kind = K::Frame,
-       .name = "fmData",
-       .caption = " Input  Coefficient / Constant  ",
-       .left = 3240,
-       .top = 120,
-       .width = 7200,
-       .height = 2280},
-  };
+  std::vector<Design> t;
+  t.push_back(Row(K::Frame, "fmSelect", -1, " Select  Equation ", "", 120, 120, 3000, 5880));
+  t.push_back(option(1, "aX\u00b2 + bX + c = 0", " including  aX + b = 0 ", false, false));
+  t.push_back(option(2, "aX\u00b3 + bX\u00b2 + cX + d = 0", "", false, true));
+  t.push_back(option(3, "aX + bY = c", "", false, true));
+  t.push_back(option(4, "aX + bY + cZ = d", "", false, true));
+  t.push_back(option(5, "aX\u00b2 + bX + c = 0", " including  aX + b = 0 ", true, true));
+  t.push_back(option(6, "aX\u00b3 + bX\u00b2 + cX + d = 0", "", true, false));
+  t.push_back(option(7, "aX + bY = c", "", true, false));
+  t.push_back(option(8, "aX + bY + cZ = d", "", true, false));
+  t.push_back(notice("More complex equations : see the Vantor Calc", 120, 6120, 3000, 720));
+
+  t.push_back(
+      Row(K::Frame, "fmData", -1, " Input  Coefficient / Constant  ", "", 3240, 120, 7200, 2280));
   for (int i = 1; i <= 12; ++i) t.push_back(box(i));
   for (int i = 1; i <= 12; ++i) t.push_back(word(i));
   t.push_back(exponent(13, 0));
   t.push_back(exponent(14, 1));
-  t.push_back({.kind = K::Frame,
-               .name = "fmAns",
-               .caption = " Answer  ",
-               .left = 3240,
-               .top = 2520,
-               .width = 7200,
-               .height = 3480});
+
+  t.push_back(Row(K::Frame, "fmAns", -1, " Answer  ", "", 3240, 2520, 7200, 3480));
   for (int i = 0; i <= 3; ++i) t.push_back(answerWord(i));
-  for (int i = 0; i <= 3; ++i) t.push_back(answerRow(i));
+  for (int i = 0; i <= 3; ++i) t.push_back(answer(i));
   t.push_back(key("cmdCalc", "Solve", " Solve equation ", 3240));
   t.push_back(key("cmdDel", "Delete", " Delete inputted coefficient data ", 5100));
   t.push_back(key("cmdGraph", "Graph", " Show Graph ", 6960));
@@ -218,14 +144,7 @@ std::vector<Design> frmEqtns::designTable() {
 
   // The graph: picture units 0 to 6700 both ways, y downward; its texts and
   // keys stand in the strip on the right.
-  t.push_back({.kind = K::PictureBox,
-               .name = "picGraph",
-               .left = 0,
-               .top = 0,
-               .width = 10560,
-               .height = 7050,
-               .visible = false,
-               .backColor = kWhite});
+  t.push_back(graph(0, 0, 10560, 7050));
   t.push_back(line("lineXX", 0, 3400, 6700, 3400, true));
   t.push_back(line("lineYY", 3400, 0, 3400, 6700, true));
   t.push_back(line("lineY1", 3400, 0, 3400, 6700, false));

@@ -1,5 +1,6 @@
 // The converter's face: the table across the top; below it the two boxes,
 // the choice of country, the quick bar and Exit.
+#include "surface/design_rows.h"
 #include "units/conver.h"
 
 namespace tessaron {
@@ -10,138 +11,74 @@ using K = ControlKind;
 // The band below the table.
 constexpr int kBand = 3700;
 
+Design table(int left, int top, int width, int height, int rows, int cols, long colour) {
+  Design d = Row(K::FlexGrid, "Table", -1, "", "", left, top, width, height);
+  d.backColor = colour;
+  d.rows = rows;
+  d.cols = cols;
+  return d;
+}
+
+// The units' names stand centred over their boxes.
+Design head(const char* name, const char* caption, const char* tip, int left, int top, int width,
+            int height = 255, double font = 0) {
+  Design d = Row(K::Label, name, -1, caption, tip, left, top, width, height);
+  d.fontSize = font;
+  d.alignment = Align::Center;
+  return d;
+}
+
+Design amount(const char* name, const char* caption, const char* tip, int left, int top) {
+  Design d = Row(K::TextBox, name, -1, caption, tip, left, top, 2400, 405);
+  d.fontSize = 11;
+  d.alignment = Align::Right;
+  return d;
+}
+
 Design option(const char* name, int index, const char* caption, const char* tip, int left, int top,
               int width, const char* frame, bool checked = false) {
-  return {.kind = K::OptionButton,
-          .name = name,
-          .index = index,
-          .caption = caption,
-          .tip = tip,
-          .left = left,
-          .top = top,
-          .width = width,
-          .height = 255,
-          .container = frame,
-          .checked = checked};
+  Design d = Row(K::OptionButton, name, index, caption, tip, left, top, width, 255, frame);
+  d.checked = checked;
+  return d;
+}
+
+// The quick bar steps through the chosen pair of units.
+Design quickBar(int left, int top, int width, int min, int max, int largeChange, int value) {
+  Design d = Row(K::HScrollBar, "HscrAll", -1, "", "", left, top, width, 255, "frameA");
+  d.min = min;
+  d.max = max;
+  d.largeChange = largeChange;
+  d.value = value;
+  return d;
 }
 }  // namespace
 
 std::vector<Design> frmConver::designTable() {
   return {
-      {.kind = K::FlexGrid,
-       .name = "Table",
-       .left = 120,
-       .top = 120,
-       .width = 19010,
-       .height = 3500,
-       .backColor = 0xFFFFC0,
-       .rows = 12,
-       .cols = 11,
-       .fixedRows = 1,
-       .fixedCols = 1},
-      {.kind = K::Label,
-       .name = "lblAA",
-       .caption = " unit A ",
-       .left = 240,
-       .top = kBand + 80,
-       .width = 2400,
-       .height = 255,
-       .alignment = Align::Center},
-      {.kind = K::TextBox,
-       .name = "txtAA",
-       .caption = "click table ",
-       .left = 240,
-       .top = kBand + 360,
-       .width = 2400,
-       .height = 405,
-       .fontSize = 11,
-       .alignment = Align::Right},
-      {.kind = K::Label,
-       .name = "lblEql",
-       .caption = "=",
-       .left = 2700,
-       .top = kBand + 390,
-       .width = 300,
-       .height = 345,
-       .fontSize = 12,
-       .alignment = Align::Center},
-      {.kind = K::Label,
-       .name = "lblBB",
-       .caption = " unit B ",
-       .tip = " Click the cell of above table to select unit ",
-       .left = 3060,
-       .top = kBand + 80,
-       .width = 2400,
-       .height = 255,
-       .alignment = Align::Center},
-      {.kind = K::TextBox,
-       .name = "txtBB",
-       .caption = "& type-in",
-       .tip = " Click the cell of above table and type in here ",
-       .left = 3060,
-       .top = kBand + 360,
-       .width = 2400,
-       .height = 405,
-       .fontSize = 11,
-       .alignment = Align::Right},
-      {.kind = K::Frame,
-       .name = "frameCoun",
-       .caption = "Countries  ",
-       .left = 5760,
-       .top = kBand,
-       .width = 2040,
-       .height = 900},
+      table(120, 120, 19010, 3500, 12, 11, 0xFFFFC0),
+      head("lblAA", " unit A ", "", 240, kBand + 80, 2400),
+      amount("txtAA", "click table ", "", 240, kBand + 360),
+      head("lblEql", "=", "", 2700, kBand + 390, 300, 345, 12),
+      head("lblBB", " unit B ", " Click the cell of above table to select unit ", 3060, kBand + 80,
+           2400),
+      amount("txtBB", "& type-in", " Click the cell of above table and type in here ", 3060,
+             kBand + 360),
+      Row(K::Frame, "frameCoun", -1, "Countries  ", "", 5760, kBand, 2040, 900),
       option("optCoun", kMostUsa, "Most+USA", " Units of most countries ", 120, 270, 1800,
              "frameCoun", true),
       option("optCoun", kKorea, "Korea", " Show units of Korea ", 120, 560, 1800, "frameCoun"),
-      {.kind = K::Frame,
-       .name = "frameA",
-       .left = 8040,
-       .top = kBand,
-       .width = 7080,
-       .height = 900},
+      Row(K::Frame, "frameA", -1, "", "", 8040, kBand, 7080, 900),
       option("optChoice", kYard, "yard", " Yard <> Meter ", 120, 240, 1050, "frameA"),
       option("optChoice", kPound, "pound", " Pound <> Kg ", 1170, 240, 1050, "frameA"),
       option("optChoice", kFeetInch, "ft-inch", " Feet-Inch <> cm ", 2220, 240, 1050, "frameA",
              true),
       option("optChoice", kTemperature, "temp.", " Degree F <> Degree C ", 3270, 240, 1050,
              "frameA"),
-      {.kind = K::HScrollBar,
-       .name = "HscrAll",
-       .left = 120,
-       .top = 560,
-       .width = 4200,
-       .height = 255,
-       .container = "frameA",
-       .min = 1,
-       .max = 240,
-       .smallChange = 1,
-       .largeChange = 10,
-       .value = 130},
-      {.kind = K::Label,
-       .name = "lblFP",
-       .caption = "feet-inch",
-       .left = 4560,
-       .top = 240,
-       .width = 2400,
-       .height = 255,
-       .container = "frameA"},
-      {.kind = K::Label,
-       .name = "lblKM",
-       .caption = "cm",
-       .left = 4560,
-       .top = 560,
-       .width = 2400,
-       .height = 255,
-       .container = "frameA"},
-      {.kind = K::CommandButton,
-       .name = "cmdExit",
-       .caption = "Exit",
-       .tip = " Close Unit Conversion ",
-       .left = 17640,
-       .top = kBand + 120,
-       .width = 1320,
-       .height = 600},
+      quickBar(120, 560, 4200, 1, 240, 10, 130),
+      Row(K::Label, "lblFP", -1, "feet-inch", "", 4560, 240, 2400, 255, "frameA"),
+      Row(K::Label, "lblKM", -1, "cm", "", 4560, 560, 2400, 255, "frameA"),
+      Row(K::CommandButton, "cmdExit", -1, "Exit", " Close Unit Conversion ", 17640, kBand + 120,
+          1320, 600),
   };
 }
 

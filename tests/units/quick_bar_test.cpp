@@ -1,6 +1,7 @@
 // The quick bar: each option's length and start, and every step of the bar
 // moving the two figures the same way.
 #include <cstdlib>
+#include <initializer_list>
 
 #include "tests/units/conver_fixture.h"
 
@@ -32,6 +33,36 @@ class QuickBar : public ConverFixture {
     if (s.find('=') != std::string::npos) return 12;
     return 12 * figure(s.substr(0, ft)) + figure(s.substr(ft + 3));
   }
+  // Steps the bar from first to last: the upper figure, as read, rises above
+  // the one before (floor before the first) and check sees it beside the lower.
+  template <class Read, class Check>
+  void sweep(int first, int last, double floor, Read read, Check check) {
+    for (int v = first; v <= last; ++v) {
+      to(v);
+      const double upper = read(caption("lblFP"));
+      check(v, upper, figure(caption("lblKM")));
+      EXPECT_GT(upper, floor) << v;
+      floor = upper;
+    }
+  }
+  // Where the bar stops and the words the two figures show there; a null
+  // is not looked at.
+  struct Stop {
+    int v;
+    const char* fp;
+    const char* km = nullptr;
+  };
+  void stops(std::initializer_list<Stop> list) {
+    for (const Stop& s : list) {
+      to(s.v);
+      if (s.fp) {
+        EXPECT_EQ(caption("lblFP"), s.fp) << s.v;
+      }
+      if (s.km) {
+        EXPECT_EQ(caption("lblKM"), s.km) << s.v;
+      }
+    }
+  }
 };
 
 TEST_F(QuickBar, EachOptionGivesTheBarItsLengthAndStart) {
@@ -59,100 +90,61 @@ TEST_F(QuickBar, EachOptionGivesTheBarItsLengthAndStart) {
 
 TEST_F(QuickBar, FeetAndInchesStepByHalfInches) {
   choose(frmConver::kFeetInch);
-  double last = -1;
-  for (int v = 1; v <= 240; ++v) {
-    to(v);
-    const double in = inches(caption("lblFP"));
+  sweep(1, 240, -1, inches, [](int v, double in, double cm) {
     EXPECT_DOUBLE_EQ(in, v / 2.0) << v;
-    EXPECT_NEAR(figure(caption("lblKM")), v * 1.27, (v < 24 ? 0.005 : 0.05) + 1e-9) << v;
-    EXPECT_GT(in, last);
-    last = in;
-  }
-  to(1);
-  EXPECT_EQ(caption("lblFP"), "0.5 in. ");
-  EXPECT_EQ(caption("lblKM"), "1.27 cm ");
-  to(24);
-  EXPECT_EQ(caption("lblFP"), "1 ft = 12 in ");
-  EXPECT_EQ(caption("lblKM"), "30.48 cm ");
-  to(25);
-  EXPECT_EQ(caption("lblFP"), "1 ft 0.5 in ");
-  EXPECT_EQ(caption("lblKM"), "31.8 cm ");
-  to(240);
-  EXPECT_EQ(caption("lblFP"), "10 ft 0. in ");
-  EXPECT_EQ(caption("lblKM"), "304.8 cm ");
+    EXPECT_NEAR(cm, v * 1.27, (v < 24 ? 0.005 : 0.05) + 1e-9) << v;
+  });
+  stops({{1, "0.5 in. ", "1.27 cm "},
+         {24, "1 ft = 12 in ", "30.48 cm "},
+         {25, "1 ft 0.5 in ", "31.8 cm "},
+         {240, "10 ft 0. in ", "304.8 cm "}});
 }
 
 TEST_F(QuickBar, TemperaturesRiseThroughTheirBands) {
   choose(frmConver::kTemperature);
-  double last = -1000;
-  for (int v = 1; v <= 256; ++v) {
-    to(v);
-    const double f = figure(caption("lblFP"));
-    const double cdeg = figure(caption("lblKM"));
-    EXPECT_GT(f, last) << v;
-    EXPECT_NEAR(cdeg, (f - 32) * 5 / 9, 0.05 + 1e-9) << v;
-    last = f;
-  }
-  const std::pair<int, const char*> ends[] = {
-      {1, "-40. degF "},    {9, "0. degF "},      {10, " 1. degF "},
-      {104, " 95. degF "},  {105, " 95.1 degF "}, {234, " 108.0 degF "},
-      {235, " 110. degF "}, {255, " 210. degF "}, {256, " 212. degF "}};
-  for (const auto& [v, text] : ends) {
-    to(v);
-    EXPECT_EQ(caption("lblFP"), text) << v;
-  }
-  EXPECT_EQ(caption("lblKM"), " 100. degC ");
-  to(1);
-  EXPECT_EQ(caption("lblKM"), "- 40.0 degC ");
+  sweep(1, 256, -1000, figure,
+        [](int v, double f, double c) { EXPECT_NEAR(c, (f - 32) * 5 / 9, 0.05 + 1e-9) << v; });
+  stops({{1, "-40. degF "},
+         {9, "0. degF "},
+         {10, " 1. degF "},
+         {104, " 95. degF "},
+         {105, " 95.1 degF "},
+         {234, " 108.0 degF "},
+         {235, " 110. degF "},
+         {255, " 210. degF "},
+         {256, " 212. degF ", " 100. degC "},
+         {1, nullptr, "- 40.0 degC "}});
 }
 
 TEST_F(QuickBar, PoundsRiseThroughTheirBandsToFourRoundWeights) {
   choose(frmConver::kPound);
-  double last = 0;
-  for (int v = 17; v <= 642; ++v) {
-    to(v);
-    const double lb = figure(caption("lblFP"));
-    EXPECT_GT(lb, last) << v;
-    EXPECT_NEAR(figure(caption("lblKM")), lb * 0.45359237, (v <= 106 ? 0.005 : 0.05) + 1e-9) << v;
-    last = lb;
-  }
-  const std::pair<int, const char*> ends[] = {{17, "1.1  pounds "},     {106, "10.0  pounds "},
-                                              {107, "10.5  pounds "},   {527, "220.5  pounds "},
-                                              {528, "225.0  pounds "},  {638, "775.0  pounds "},
-                                              {639, "1000.0  pounds "}, {640, "2000.0  pounds "},
-                                              {641, "2204.6  pounds "}, {642, "2240.0  pounds "}};
-  for (const auto& [v, text] : ends) {
-    to(v);
-    EXPECT_EQ(caption("lblFP"), text) << v;
-  }
-  EXPECT_EQ(caption("lblKM"), "1016.0 kg ");
-  to(1);
-  EXPECT_EQ(caption("lblFP"), "1 ounce = ");
-  EXPECT_EQ(caption("lblKM"), "0.063 pound ");
-  to(15);
-  EXPECT_EQ(caption("lblFP"), "15 ounce = ");
-  EXPECT_EQ(caption("lblKM"), "0.938 pound ");
-  to(16);
-  EXPECT_EQ(caption("lblFP"), "16 ounce = 1 pound ");
-  EXPECT_EQ(caption("lblKM"), "453.6 gram ");
+  sweep(17, 642, 0, figure, [](int v, double lb, double kg) {
+    EXPECT_NEAR(kg, lb * 0.45359237, (v <= 106 ? 0.005 : 0.05) + 1e-9) << v;
+  });
+  stops({{17, "1.1  pounds "},
+         {106, "10.0  pounds "},
+         {107, "10.5  pounds "},
+         {527, "220.5  pounds "},
+         {528, "225.0  pounds "},
+         {638, "775.0  pounds "},
+         {639, "1000.0  pounds "},
+         {640, "2000.0  pounds "},
+         {641, "2204.6  pounds "},
+         {642, "2240.0  pounds ", "1016.0 kg "},
+         {1, "1 ounce = ", "0.063 pound "},
+         {15, "15 ounce = ", "0.938 pound "},
+         {16, "16 ounce = 1 pound ", "453.6 gram "}});
 }
 
 TEST_F(QuickBar, YardsStepByOneThenStopOnFourDistances) {
   choose(frmConver::kYard);
-  double last = 0;
-  for (int v = 1; v <= 304; ++v) {
-    to(v);
-    const double yd = figure(caption("lblFP"));
-    if (v <= 300) EXPECT_EQ(yd, v);
-    EXPECT_GT(yd, last) << v;
-    EXPECT_NEAR(figure(caption("lblKM")), yd * 0.9144, 0.05 + 1e-9) << v;
-    last = yd;
-  }
-  EXPECT_EQ(caption("lblFP"), "1760 yards ");
-  EXPECT_EQ(caption("lblKM"), "1609.3 meter ");
-  to(1);
-  EXPECT_EQ(caption("lblFP"), "1 yards ");
-  EXPECT_EQ(caption("lblKM"), "0.9 meter ");
+  sweep(1, 304, 0, figure, [](int v, double yd, double m) {
+    if (v <= 300) {
+      EXPECT_EQ(yd, v);
+    }
+    EXPECT_NEAR(m, yd * 0.9144, 0.05 + 1e-9) << v;
+  });
+  stops({{304, "1760 yards ", "1609.3 meter "}, {1, "1 yards ", "0.9 meter "}});
 }
 
 }  // namespace
