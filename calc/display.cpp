@@ -11,6 +11,8 @@ namespace tessaron {
 namespace {
 constexpr long kBlue = 0xFF0000, kGreen = 0x8000, kBlack = 0;
 
+bool grouped(double v) { return std::fabs(v) >= 1000 && std::fabs(v) < 1e15; }
+
 // The display text as a number: comma groups are read past, as the number
 // rule reads them. Text that is no number falls to that rule and its failure.
 double readNumber(const std::string& text) {
@@ -229,8 +231,24 @@ void OviCalc::PubReadComma() {
   // A number waiting to be shown has no comma yet.
   const std::string& t = Readout->Caption;
   const bool plain = pendingShow_ || (t.find(',') == std::string::npos && !t.empty());
-  const double a = std::fabs(plain ? displayValue() : Val(t));
-  if (a >= 1000 && a < 1e15) setDisp(Format(Value(displayValue()), "###,##0.####################"));
+  if (plain ? commaRange() : grouped(Val(t))) groupDisplay();
+}
+
+// Whether the number shown is at least 1000 and below 10^15, where the display
+// groups its digits. A number waiting to be shown is judged by itself unless
+// its fifteen digits could carry it across a bound: the next key may well
+// show another, and the reading back is then saved.
+bool OviCalc::commaRange() const {
+  if (pendingShow_) {
+    const double a = std::fabs(pendingValue_);
+    if (a < 999 || a > 1.001e15) return false;
+    if (a > 1001 && a < 0.999e15) return true;
+  }
+  return grouped(displayValue());
+}
+
+void OviCalc::groupDisplay() {
+  setDisp(Format(Value(displayValue()), "###,##0.####################"));
 }
 
 void OviCalc::PubZeroRead() {

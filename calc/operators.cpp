@@ -302,8 +302,7 @@ void OviCalc::Operator(int Index) {
     if (loud()) PubIniOrder();
   }
   bExp = false;
-  const double a = std::fabs(displayValue());
-  if (a >= 1000 && a < 1e15) setDisp(Format(Value(displayValue()), "###,##0.####################"));
+  if (commaRange()) groupDisplay();
 }
 
 void OviCalc::cmdOpenP() {

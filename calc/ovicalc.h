@@ -348,6 +348,8 @@ class OviCalc : public Form,
     return v == readIn_[slot] ? readOut_[slot] : readAfresh(v, slot);
   }
   double readAfresh(double v, std::size_t slot) const;
+  bool commaRange() const;
+  void groupDisplay();
   double readDisplay() const;
   // Controls the keys touch, found once.
   Control *Readout{}, *lblFormula{}, *lblRead2{}, *txtKwal{}, *cmdDeciC{}, *SignC{}, *cmdExpC{},

@@ -33,9 +33,13 @@ void OviCalc::familyKey(int code, int key) {
     Cancel();
     return;
   }
-  if (loud()) FormulaText += o.transcript;
   PubReadout(o.value);
-  PubFormula2(Value(displayValue()));
+  // The reference in braces is the value as the display shows it; a silent
+  // replay writes no transcript.
+  if (loud()) {
+    FormulaText += o.transcript;
+    PubFormula2(Value(displayValue()));
+  }
   PubLast();
   PubReadComma();
 }
