@@ -144,4 +144,49 @@ TEST_F(EngineTest, TheAidsAndTheGraphAreLive) {
   EXPECT_EQ(c("cmdGraph").Caption, "Graph");
 }
 
+// f(T) = T X 0.9999999999999999 makes a hair below 1000 and a hair below
+// 10^15 from 1000 and 10^15; a product keeps the hair, where a sum's dust cut
+// would take it off.
+std::string JustBelowOne() {
+  std::string words = "T X 0 .";
+  for (int i = 0; i < 16; ++i) words += " 9";
+  return words;
+}
+
+// Calc shows the replayed value grouped as the display groups any number:
+// by the digits it shows, so 999.9999999999999 shows as 1000 and is grouped,
+// and 999999999999999.9 shows as 10^15 and is not.
+TEST_F(EngineTest, CalcGroupsTheValueByItsShownDigits) {
+  function(JustBelowOne());
+  setT("1 0 0 0");
+  fkey("Calc");
+  EXPECT_EQ(display(), "1,000.");
+  setT("1 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0");
+  fkey("Calc");
+  EXPECT_EQ(display(), "1E+15");
+  setT("9 9 8");
+  fkey("Calc");
+  EXPECT_EQ(display(), "998");
+}
+
+// Inside a silent replay the value waits to be shown, and the grouping is
+// judged without its text: by the value itself where its shown digits cannot
+// cross 1000 or 10^15, else by those digits. A grouped value is written at
+// once; an ungrouped one still waits when the replay ends.
+TEST_F(EngineTest, ASilentReplayGroupsByTheShownDigits) {
+  function(JustBelowOne());
+  calc->CalcStage = 5;
+  calc->KeyLog = false;
+  calc->evalAt(1000);
+  EXPECT_EQ(c("Readout").Caption, "1,000.");
+  calc->evalAt(1e15);
+  EXPECT_EQ(display(), "1E+15");
+  // 998.9999999999999 shows as 999 and is not grouped: it waits.
+  calc->evalAt(999);
+  EXPECT_NE(c("Readout").Caption, "999");
+  EXPECT_EQ(display(), "999");
+  calc->evalAt(5000);
+  EXPECT_EQ(c("Readout").Caption, "5,000.");
+}
+
 }  // namespace tessaron::test
