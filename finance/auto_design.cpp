@@ -61,12 +61,8 @@ Design option(const char* name, const char* caption, const char* tip, int left, 
 
 Design bar(const char* name, int left, int top, int width, int min, int max, int largeChange,
            int value) {
-  Design d = Row(K::HScrollBar, name, -1, "", "", left, top, width, 255, "frmTermsRate");
-  d.min = min;
-  d.max = max;
-  d.largeChange = largeChange;
-  d.value = value;
-  return d;
+  return ScrollRow(K::HScrollBar, name, left, top, width, 255, "frmTermsRate", min, max,
+                   largeChange, value);
 }
 
 Design key(const char* name, const char* caption, const char* tip, int left) {

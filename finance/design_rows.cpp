@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "surface/design_rows.h"
+
 namespace tessaron {
 
 namespace {
@@ -21,20 +23,10 @@ Design PanelLabel(std::string name, std::string caption, int left, int top, int 
           .alignment = alignment};
 }
 
-Design Bar(std::string name, int left, int top, int width, int min, int max, int largeChange,
+Design Bar(const char* name, int left, int top, int width, int min, int max, int largeChange,
            int value) {
-  return {.kind = K::HScrollBar,
-          .name = std::move(name),
-          .left = left,
-          .top = top,
-          .width = width,
-          .height = 255,
-          .container = "Frame2",
-          .min = min,
-          .max = max,
-          .smallChange = 1,
-          .largeChange = largeChange,
-          .value = value};
+  return ScrollRow(K::HScrollBar, name, left, top, width, 255, "Frame2", min, max, largeChange,
+                   value);
 }
 }  // namespace
 

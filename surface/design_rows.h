@@ -21,4 +21,17 @@ inline Design Row(ControlKind kind, const char* name, int index, const char* cap
           .container = container};
 }
 
+// A scroll bar: its place, what it stands in, and its range, its large step
+// and where it starts. The small step is one.
+inline Design ScrollRow(ControlKind kind, const char* name, int left, int top, int width,
+                        int height, const char* container, int min, int max, int largeChange,
+                        int value) {
+  Design d = Row(kind, name, -1, "", "", left, top, width, height, container);
+  d.min = min;
+  d.max = max;
+  d.largeChange = largeChange;
+  d.value = value;
+  return d;
+}
+
 }  // namespace tessaron

@@ -44,12 +44,8 @@ Design option(const char* name, int index, const char* caption, const char* tip,
 
 // The quick bar steps through the chosen pair of units.
 Design quickBar(int left, int top, int width, int min, int max, int largeChange, int value) {
-  Design d = Row(K::HScrollBar, "HscrAll", -1, "", "", left, top, width, 255, "frameA");
-  d.min = min;
-  d.max = max;
-  d.largeChange = largeChange;
-  d.value = value;
-  return d;
+  return ScrollRow(K::HScrollBar, "HscrAll", left, top, width, 255, "frameA", min, max, largeChange,
+                   value);
 }
 }  // namespace
 
