@@ -260,6 +260,8 @@ class OviCalc : public Form,
   void pubTValueSet();
   void panelKeys(bool open);
   void solveKeys();
+  // The Back key tells the user to wait while a long walk of replays runs.
+  void backKeyWaits(bool waiting);
   double readF() const { return displayValue(); }
   bool domainActive() const { return DomainTab[0] > 1; }
   void replayRange(int col, int from, int to);

@@ -10,7 +10,6 @@ namespace tessaron {
 
 namespace {
 constexpr long kAidColour = 16762823;
-constexpr long kBackColour = 12632256;
 const char* const kAidKeys[] = {"cmdSlope",    "cmdIntegral", "cmdLength", "cmdXCyl",
                                 "cmdYCol",     "cmdXsurf",    "cmdYsurf",  "cmdMinMax",
                                 "cmdVaskMode", "cmdVaskMode2"};
@@ -56,9 +55,7 @@ void OviCalc::PubAssistNew() {
   KeyLog = true;
   pubNewOri();
   lblFormula->Caption = EqnText[EqnIdx];
-  cmdBackC->Caption = "Back";
-  cmdBackC->Width = 1200;
-  cmdBackC->BackColor = kBackColour;
+  backKeyWaits(false);
   CalcStage = 4;
 }
 

@@ -10,7 +10,7 @@
 namespace tessaron {
 
 namespace {
-constexpr long kWaitColour = 12648384, kBusyColour = 16769248;
+constexpr long kBusyColour = 16769248;
 constexpr int kIntervals = 5000;
 const char* const kNotWorking = " Not Working...!!!  ";
 
@@ -34,9 +34,7 @@ bool OviCalc::demoShape(Shape& s) const {
 // Simpson's rule as twice the midpoint sum and the trapezoid sum, over
 // three; f or f^2. `same` stays true while no term turns against the sum.
 OviCalc::SumEnd OviCalc::simpsonSum(bool square, double& value, bool& same) {
-  cmdBackC->Caption = "Pls Wait.";
-  cmdBackC->Width = 1800;
-  cmdBackC->BackColor = kWaitColour;
+  backKeyWaits(true);
   const double h = (IntTo - IntFrom) / kIntervals;
   const bool scaled = EqnIdx == kDemoSlot && DemoSub > 1 && DemoNumber > 35;
   auto term = [&](double x, double& f) {

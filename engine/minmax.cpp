@@ -38,9 +38,7 @@ void OviCalc::cmdMinMax() {
       MaxY = GesuA;
     }
   } else {
-    cmdBackC->Caption = "Pls Wait.";
-    cmdBackC->Width = 1800;
-    cmdBackC->BackColor = 12648384;
+    backKeyWaits(true);
     const double h = (IntTo - IntFrom) / kScan;
     for (int i = 1; i <= kScan - 1; ++i) {
       const double t = IntFrom + i * h;

@@ -11,18 +11,21 @@
 namespace tessaron {
 
 namespace {
-constexpr long kWaitColour = 12648384, kBackColour = 12632256;
 bool accepted(float code) { return code > 0.5f && code < 990; }
 bool filed(float code) { return code > 0 && code < 990; }
-}  // namespace
 
-namespace {
 // A point stands Margin from a pole when it does up to the rounding of T
 // itself near the pole.
 bool marginFrom(double t, double p, double margin) {
   return std::fabs(std::fabs(t - p) - margin) <= margin * 1e-3 + 8 * DBL_EPSILON * std::fabs(p);
 }
 }  // namespace
+
+void OviCalc::backKeyWaits(bool waiting) {
+  cmdBackC->Caption = waiting ? "Pls Wait." : "Back";
+  cmdBackC->Width = waiting ? 1800 : 1200;
+  cmdBackC->BackColor = waiting ? 12648384 : 12632256;
+}
 
 void OviCalc::cmdTsolve() {
   if (EqnIdx == kDemoSlot) {
@@ -45,9 +48,7 @@ void OviCalc::cmdTsolve() {
   if (EqnIdx == 0) ScrForm->setValue(Value(1));
   const auto& col = EqnTable[EqnIdx];
   for (int i = 0; i <= static_cast<int>(col[29]); ++i) KeyCopy[i] = static_cast<int>(col[30 + i]);
-  cmdBackC->Caption = "Pls Wait.";
-  cmdBackC->Width = 1800;
-  cmdBackC->BackColor = kWaitColour;
+  backKeyWaits(true);
   CalcStage = 5;
   pubFunkWrite();
   InputT = InputForm = ErrFlag = false;
@@ -71,9 +72,7 @@ void OviCalc::cmdTsolve() {
   pubFunkWrite();
   KeyLog = true;
   pubEnableB();
-  cmdBackC->Caption = "Back";
-  cmdBackC->Width = 1200;
-  cmdBackC->BackColor = kBackColour;
+  backKeyWaits(false);
   solveKeys();
 }
 

@@ -84,9 +84,7 @@ void OviCalc::cmdYCol() {
   } else {
     // Discs of radius T, each as thick as its step in y; the curve may not
     // leave the band between its end values.
-    cmdBackC->Caption = "Pls Wait.";
-    cmdBackC->Width = 1800;
-    cmdBackC->BackColor = 12648384;
+    backKeyWaits(true);
     const double h = (IntTo - IntFrom) / kIntervals;
     double yPrev = YFrom, f = 0;
     for (int i = 1; i <= kIntervals; ++i) {
@@ -132,9 +130,7 @@ void OviCalc::surfaceOfRevolution(bool aboutY) {
         aboutY ? std::fabs(IntFrom) + std::fabs(IntTo) : std::fabs(YFrom) + std::fabs(YTo);
     value = RoundX(14, pi * rims * L);
   } else {
-    cmdBackC->Caption = "Pls Wait.";
-    cmdBackC->Width = 1800;
-    cmdBackC->BackColor = 12648384;
+    backKeyWaits(true);
     const double h = (IntTo - IntFrom) / kIntervals;
     double prev = 0, f = 0;
     for (int i = 0; i <= kIntervals; ++i) {
