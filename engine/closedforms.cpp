@@ -21,13 +21,22 @@ bool clearOfPoles(double u1, double u2, double p0) {
   return n1 == n2 && std::fmod(u1 - p0, pi) != 0 && std::fmod(u2 - p0, pi) != 0;
 }
 
+// A function at the two ends of [u1, u2], into g1 and g2: true when both
+// are numbers.
+struct Ends {
+  double u1, u2;
+  double &g1, &g2;
+  template <class G>
+  bool operator()(G g) const {
+    g1 = g(u1);
+    g2 = g(u2);
+    return std::isfinite(g1) && std::isfinite(g2);
+  }
+};
+
 // G at u, false where it does not apply on the whole of [u1, u2].
 bool antiderivative(int no, double u1, double u2, double& g1, double& g2) {
-  auto both = [&](auto G) {
-    g1 = G(u1);
-    g2 = G(u2);
-    return std::isfinite(g1) && std::isfinite(g2);
-  };
+  const Ends both{u1, u2, g1, g2};
   const double lo = std::min(u1, u2), hi = std::max(u1, u2);
   switch (no) {
     case 2:
@@ -150,11 +159,7 @@ bool ShapeIntegral(const Shape& s, double x1, double x2, double& out) {
 namespace {
 // The integral of g^2 at u, where the shape has one on the whole of [u1, u2].
 bool squareAntiderivative(int no, double u1, double u2, double& g1, double& g2) {
-  auto both = [&](auto G) {
-    g1 = G(u1);
-    g2 = G(u2);
-    return std::isfinite(g1) && std::isfinite(g2);
-  };
+  const Ends both{u1, u2, g1, g2};
   const double lo = std::min(u1, u2), hi = std::max(u1, u2);
   const double ln10 = std::log(10.0);
   auto lnSq = [](double u) { return u * std::log(u) * std::log(u) - 2 * u * std::log(u) + 2 * u; };
